@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string>
+
+namespace quillbrand {
+
+/// A text file of sections in square brackets with lines key=value. Sections and keys are compared
+/// without regard to case; comments stay when the file is written again.
+class IniFile {
+  public:
+    /// An empty file.
+    IniFile();
+    ~IniFile();
+    IniFile(IniFile&&) noexcept;
+    IniFile& operator=(IniFile&&) noexcept;
+
+    /// What `bytes` hold; lines that make no sense are passed over. Never fails.
+    static IniFile Parse(std::span<const std::byte> bytes);
+
+    /// Reads the file. One that does not exist reads as empty; any other trouble is a Fault.
+    static IniFile Read(const std::filesystem::path& path);
+
+    /// The value of a key as a reader with a buffer of `buffer` characters gets it: cut to what
+    /// fits beside a closing NUL, cut at its first NUL, without quotes around it, trimmed.
+    std::string Get(const std::string& section, const std::string& key,
+                    const std::string& defaultValue = "", std::size_t buffer = 512) const;
+
+    void Set(const std::string& section, const std::string& key, const std::string& value);
+
+    /// The file's text as Write() stores it.
+    std::string Text() const;
+
+    /// Replaces the file. Throws Fault.
+    void Write(const std::filesystem::path& path) const;
+
+  private:
+    struct Content;
+    std::unique_ptr<Content> content_;
+};
+
+}  // namespace quillbrand

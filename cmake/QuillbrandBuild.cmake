@@ -1,0 +1,40 @@
+# What every target of the project shares: language, warnings, float rules, sanitizers.
+
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
+endif()
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_FLAGS_RELEASE "-O3")
+
+find_program(QB_CCACHE ccache)
+if(QB_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${QB_CCACHE}")
+endif()
+find_program(QB_MOLD mold)
+if(QB_MOLD)
+  add_link_options(-fuse-ld=mold)
+endif()
+
+# Results must not depend on the compiler's taste: no fused multiply-add, no fast-math.
+add_compile_options(-ffp-contract=off -fno-math-errno)
+add_compile_options(-Wall -Wextra -Wshadow -Wconversion -Wno-sign-conversion -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  add_compile_options(-Wno-restrict)  # warns of every "a" + std::string (GCC bug 105651)
+endif()
+
+if(QB_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# qb_library(NAME SOURCES ... LINKS ...): the static library of the folder NAME.
+# Sources include each other from the project's root ("terrain/clsTerrain.h").
+function(qb_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(qb_${name} STATIC ${ARG_SOURCES})
+  target_include_directories(qb_${name} PUBLIC "${CMAKE_SOURCE_DIR}")
+  target_link_libraries(qb_${name} PUBLIC ${ARG_LINKS})
+endfunction()

@@ -1,0 +1,215 @@
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+#include "base/Numbers.h"
+#include "base/Stdio.h"
+#include "base/VectorClones.h"
+#include "effects/ColumnStrip.h"
+#include "effects/QBFilter.h"
+#include "terrain/RowKernels.h"
+
+namespace quillbrand::QBFilter {
+
+namespace {
+
+/// A column on its way through a sweep, with its two neighbours; all hold `rows` cells between two
+/// padding cells. A neighbour that lies outside the grid is the column itself.
+struct Neighbourhood {
+    const Height* left;
+    Height* centre;
+    const Height* right;
+    std::ptrdiff_t rows;
+};
+
+struct Limits {
+    Height zMin;
+    Height zMax;
+    bool Hold(Height h) const { return zMin < h && h < zMax; }
+};
+
+/// s / 5 rounded to nearest; a fifth is never half-way.
+std::int64_t RoundedFifth(std::int64_t s) {
+    const std::int64_t shifted = s + 2;
+    return shifted >= 0 ? shifted / 5 : -((4 - shifted) / 5);
+}
+
+/// One point, by its place in a column. Serves where a column is its own neighbour and where
+/// heights are too large for the fast way.
+void SmoothPoint(const Neighbourhood& n, std::ptrdiff_t y, const Limits& limits, Extremes& stored) {
+    const Height h = n.centre[y];
+    if (!limits.Hold(h))
+        return;
+    const std::int64_t s =
+        std::int64_t{n.left[y - 1]} + n.left[y + 1] + h + n.right[y - 1] + n.right[y + 1];
+    const auto mean = static_cast<Height>(RoundedFifth(s));
+    n.centre[y] = mean;
+    stored.low = std::min(stored.low, mean);
+    stored.high = std::max(stored.high, mean);
+}
+
+void SmoothColumnInOrder(const Neighbourhood& n, bool ascending, const Limits& limits,
+                         Extremes& stored) {
+    for (std::ptrdiff_t i = 0; i < n.rows; ++i)
+        SmoothPoint(n, ascending ? 1 + i : n.rows - i, limits, stored);
+}
+
+/// Heights within -narrow..narrow can be summed in 32 bits, and single floats give their s / 5 to
+/// better than the tenth that rounding needs.
+constexpr Height narrow = 1 << 20;
+
+/// A whole column at once, because its points do not see each other; heights must be narrow.
+/// `limited` is false where all heights are known to lie between the limits.
+template <bool limited>
+[[gnu::always_inline]] inline void SmoothPoints(const Height* __restrict left,
+                                                Height* __restrict centre,
+                                                const Height* __restrict right, std::ptrdiff_t rows,
+                                                Limits limits, Extremes& stored) {
+    Height low = stored.low;
+    Height high = stored.high;
+    for (std::ptrdiff_t y = 1; y <= rows; ++y) {
+        const Height h = centre[y];
+        const Height s = left[y - 1] + left[y + 1] + h + right[y - 1] + right[y + 1];
+        const auto mean = static_cast<Height>(std::rint(static_cast<float>(s) * 0.2f));
+        // A mask of all or no bits keeps branches out of the loop.
+        const Height inside =
+            limited ? -static_cast<Height>((limits.zMin < h) & (h < limits.zMax)) : -1;
+        centre[y] = (mean & inside) | (h & ~inside);
+        low = std::min(low, (mean & inside) | (INT32_MAX & ~inside));
+        high = std::max(high, (mean & inside) | (INT32_MIN & ~inside));
+    }
+    stored = {low, high};
+}
+
+QB_VECTOR_CLONES void SmoothLimitedColumn(const Neighbourhood& n, const Limits& limits,
+                                          Extremes& stored) {
+    SmoothPoints<true>(n.left, n.centre, n.right, n.rows, limits, stored);
+}
+
+QB_VECTOR_CLONES void SmoothWholeColumn(const Neighbourhood& n, const Limits& limits,
+                                        Extremes& stored) {
+    SmoothPoints<false>(n.left, n.centre, n.right, n.rows, limits, stored);
+}
+
+/// The square of an effect, cut to the grid.
+struct Square {
+    int x0, x1, y0, y1;
+};
+
+Square CutToGrid(const Area& area, int last) {
+    const auto end = [&](int start) {
+        return static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + area.extent, last));
+    };
+    return {std::max(area.startX, 0), end(area.startX), std::max(area.startY, 0), end(area.startY)};
+}
+
+/// The sweeps over the square, strip by strip.
+class Sweep {
+  public:
+    Sweep(clsTerrain& terrain, const Area& area, Host& host)
+        : writer_(terrain),
+          area_(area),
+          limits_{area.zMin, area.zMax},
+          host_(host),
+          last_(terrain.Size() + 2),
+          square_(CutToGrid(area, last_)),
+          strip_(last_, square_.y0, square_.y1) {
+        if (!IsEmpty())
+            MeasureHeights();
+    }
+
+    void Run(bool forward) {
+        if (IsEmpty())
+            return;
+        forward_ = forward;
+        const int columns = square_.x1 - square_.x0 + 1;
+        for (int done = 0; done < columns; done += ColumnStrip::width) {
+            const int count = std::min(ColumnStrip::width, columns - done);
+            RunStrip(forward_ ? square_.x0 + done : square_.x1 - done - count + 1, count);
+        }
+        if (stored_.low <= stored_.high)
+            writer_.Stored(stored_.low, stored_.high);
+    }
+
+  private:
+    bool IsEmpty() const { return square_.x0 > square_.x1 || square_.y0 > square_.y1; }
+
+    /// The extremes of all heights that a mean can take in; means never leave them.
+    void MeasureHeights() {
+        const int x = std::max(square_.x0 - 1, 0);
+        const int y = std::max(square_.y0 - 1, 0);
+        Extremes found{INT32_MAX, INT32_MIN};
+        FindExtremes(writer_.Row(y).data() + x, std::min(square_.x1 + 1, last_) - x + 1,
+                     std::min(square_.y1 + 1, last_) - y + 1, writer_.Stride(), found);
+        isNarrow_ = found.low >= -narrow && found.high <= narrow;
+        isLimited_ = !(limits_.Hold(found.low) && limits_.Hold(found.high));
+    }
+
+    void RunStrip(int first, int count) {
+        strip_.Load(writer_, first, count);
+        for (int i = 0; i < count; ++i) {
+            const int x = forward_ ? first + i : first + count - 1 - i;
+            SmoothColumn(x);
+            ReportColumn(x);
+        }
+        strip_.Store(writer_);
+    }
+
+    void SmoothColumn(int x) {
+        const Neighbourhood n{strip_.Column(std::max(x - 1, 0)), strip_.Column(x),
+                              strip_.Column(std::min(x + 1, last_)), strip_.Rows()};
+        const bool seesItself = x == 0 || x == last_;
+        if (seesItself || !isNarrow_)
+            SmoothColumnInOrder(n, forward_, limits_, stored_);
+        else if (isLimited_)
+            SmoothLimitedColumn(n, limits_, stored_);
+        else
+            SmoothWholeColumn(n, limits_, stored_);
+        strip_.RenewPadding(x);
+    }
+
+    void ReportColumn(int x) {
+        const double whole = double{1} * area_.extent + area_.startX;
+        host_.Progress(forward_ ? PercentOf(x, whole, 50) : PercentOf(whole - x, whole, 50) + 50);
+        host_.Yield();
+    }
+
+    HeightWriter writer_;
+    const Area& area_;
+    Limits limits_;
+    bool isNarrow_ = false;
+    bool isLimited_ = true;
+    bool forward_ = true;
+    Host& host_;
+    int last_;
+    Square square_;
+    ColumnStrip strip_;
+    Extremes stored_{INT32_MAX, INT32_MIN};
+};
+
+/// Even whole numbers become odd, and the whole is limited.
+float AdjustedStrength(float strength) {
+    const double half = double{strength} / 2;
+    if (half == std::trunc(RoundHalfEven(strength) / 2))
+        strength += 1;
+    return STDIO::ClampValue(1.0f, 10.0f, strength);
+}
+
+}  // namespace
+
+void FilterSmooth(clsTerrain& terrain, float& strength, const Area& area, Host& host) {
+    if (strength < 3.0f)
+        return;
+    host.Status("smoothes....");
+    host.Busy(true);
+    host.Progress(0);
+    host.Yield();
+    strength = AdjustedStrength(strength);
+    Sweep sweep(terrain, area, host);
+    sweep.Run(true);
+    sweep.Run(false);
+    host.Progress(100);
+    host.Yield();
+}
+
+}  // namespace quillbrand::QBFilter

@@ -1,0 +1,74 @@
+#include "generator/PerlinSets.h"
+
+#include <algorithm>
+
+#include "base/Fault.h"
+#include "base/IniFile.h"
+#include "base/Stdio.h"
+#include "base/Text.h"
+
+namespace quillbrand {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> Descriptions(const fs::path& folder) {
+    std::vector<fs::path> found;
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(folder, error))
+        if (EqualIgnoringCase(entry.path().extension().string(), ".ini"))
+            found.push_back(entry.path());
+    std::sort(found.begin(), found.end(), [](const fs::path& a, const fs::path& b) {
+        const std::string lowA = LowerCase(a.filename().string());
+        const std::string lowB = LowerCase(b.filename().string());
+        return lowA != lowB ? lowA < lowB : a < b;
+    });
+    return found;
+}
+
+PerlinSet ReadDescription(const fs::path& path) {
+    const IniFile file = IniFile::Read(path);
+    PerlinSet set;
+    set.name = file.Get("SET", "NAME");
+    for (std::size_t k = 0; k < set.pictures.size(); ++k)
+        set.pictures[k] = file.Get("PERLIN", std::to_string(101 + k).substr(1));
+    return set;
+}
+
+}  // namespace
+
+int PerlinSetTable::ListedRows() const {
+    const auto end = std::find_if(rows.begin(), rows.end(),
+                                  [](const PerlinSet& set) { return set.name.empty(); });
+    return static_cast<int>(end - rows.begin());
+}
+
+int PerlinSetTable::FindRow(const std::string& name) const {
+    const std::string wanted = STDIO::TrimmedText(name);
+    const auto end = rows.begin() + ListedRows();
+    const auto found = std::find_if(rows.begin(), end, [&](const PerlinSet& set) {
+        return EqualIgnoringCase(set.name, wanted);
+    });
+    return found == end ? -1 : static_cast<int>(found - rows.begin());
+}
+
+PerlinSetTable ScanPerlinSets(const fs::path& folder) {
+    PerlinSetTable table;
+    table.folder = folder;
+    const auto descriptions = Descriptions(folder);
+    if (descriptions.size() > PerlinSetTable::mostRows)
+        throw Fault("too many Perlin sets in " + folder.string() + ": " +
+                    std::to_string(descriptions.size()) + ", at most " +
+                    std::to_string(PerlinSetTable::mostRows));
+    for (const auto& path : descriptions)
+        table.rows.push_back(ReadDescription(path));
+    return table;
+}
+
+bool PerlinPathExists(const fs::path& folder) {
+    std::error_code error;
+    return fs::directory_iterator(folder, error) != fs::directory_iterator();
+}
+
+}  // namespace quillbrand

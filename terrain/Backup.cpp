@@ -1,0 +1,57 @@
+#include "terrain/Backup.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+#include "base/ByteBuffer.h"
+
+namespace quillbrand {
+
+namespace {
+
+/// Beyond any grid that the program can hold in memory.
+constexpr std::size_t mostBytes = std::size_t{1} << 33;
+
+std::size_t Side(const TerHeader& header) {
+    return static_cast<std::size_t>(header.Size) + 3;
+}
+
+}  // namespace
+
+void SaveBackup(const clsTerrain& terrain, const std::filesystem::path& path) {
+    Bytes file;
+    const std::size_t side = Side(terrain.Header());
+    file.reserve(TerHeader::bytes + sizeof(Height) * side * side);
+    ByteWriter writer(file);
+    terrain.Header().Append(writer);
+    for (int y = 0; y <= terrain.Size() + 2; ++y) {
+        const auto row = std::as_bytes(terrain.Row(y));
+        file.insert(file.end(), row.begin(), row.end());
+    }
+    OverwriteFile(path, std::move(file));
+}
+
+void LoadBackup(clsTerrain& terrain, const std::filesystem::path& path) {
+    DecodeBackup(terrain, ReadFile(path, mostBytes), path.string());
+}
+
+void DecodeBackup(clsTerrain& terrain, std::span<const std::byte> bytes, const std::string& name) {
+    const ByteReader reader(bytes, name);
+    const TerHeader header = TerHeader::Read(reader);
+    if (header.TerragenHeader != TerHeader().TerragenHeader)
+        throw Fault(name + " is no backup of a terrain");
+    if (header.Size < 0 || header.Size > INT16_MAX - 1)
+        throw Fault(name + " says a size of " + std::to_string(header.Size) +
+                    " intervals per side, at least 0 is needed");
+    const std::size_t side = Side(header);
+    const auto cells = reader.At(TerHeader::bytes, sizeof(Height) * side * side);
+
+    terrain.SetHeader(header);
+    HeightWriter writer(terrain);
+    for (std::size_t y = 0; y < side; ++y)
+        std::memcpy(writer.Row(static_cast<int>(y)).data(),
+                    cells.data() + sizeof(Height) * side * y, sizeof(Height) * side);
+}
+
+}  // namespace quillbrand

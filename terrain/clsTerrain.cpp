@@ -1,0 +1,305 @@
+#include "terrain/clsTerrain.h"
+
+#include <cmath>
+#include <string>
+
+#include "base/Fault.h"
+#include "base/Numbers.h"
+#include "terrain/HeightWindow.h"
+#include "terrain/RowKernels.h"
+
+namespace quillbrand {
+
+namespace {
+
+/// Where a search for extremes starts from.
+constexpr Height searchedLow = 4000000;
+constexpr Height searchedHigh = -4000000;
+
+double Ratio(double part, double whole, const char* what) {
+    if (whole == 0)
+        throw Fault(std::string("division by zero: ") + what + " is 0");
+    return part / whole;
+}
+
+}  // namespace
+
+clsTerrain::clsTerrain() {
+    Init(257);
+    maxZ_ = -63366;
+    minZ_ = 65535;
+}
+
+void clsTerrain::Init(std::int64_t points) {
+    if (points < 1 || points > INT16_MAX)
+        throw Fault("a terrain of " + std::to_string(points) + " points per side cannot be made (" +
+                    "1 to " + std::to_string(INT16_MAX) + ")");
+    const int side = static_cast<int>(points) + 2;
+    const auto count = static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
+    if (cells_.size() == count)
+        std::fill_n(cells_.data(), count, 0);
+    else
+        cells_ = GridBuffer<Height>(count, 0);
+    side_ = side;
+    Size(points - 1);
+    maxZ_ = -400000;
+    minZ_ = 400000;
+}
+
+void clsTerrain::Size(std::int64_t value) {
+    if (value < 0 || value + 3 > side_)
+        throw Fault("a size of " + std::to_string(value) + " does not fit the grid of " +
+                    std::to_string(side_ - 2) + " points per side");
+    header_.Size = NarrowTo16(value);
+    header_.XPoints = header_.YPoints = NarrowTo16(value + 1);
+}
+
+void clsTerrain::SetHeader(const TerHeader& header) {
+    Init(std::int64_t{header.Size} + 1);
+    header_ = header;
+    Size(header.Size);
+}
+
+int clsTerrain::MaxTU() {
+    maxTUCache_ = HeightWindow{header_.HeightScale, header_.BaseHeight}.High();
+    return maxTUCache_;
+}
+
+int clsTerrain::MinTU() {
+    minTUCache_ = HeightWindow{header_.HeightScale, header_.BaseHeight}.Low();
+    return minTUCache_;
+}
+
+void clsTerrain::MaxTU(std::int64_t value) {
+    HeightWindow window{header_.HeightScale, header_.BaseHeight};
+    const std::int64_t low = MinTU();
+    const std::int64_t high = window.SetHigh(NarrowTo16(value), low);
+    const std::int16_t cache = NarrowTo16(high);
+    header_.HeightScale = NarrowTo16(window.scale);
+    header_.BaseHeight = NarrowTo16(window.base);
+    maxTUCache_ = cache;
+}
+
+void clsTerrain::MinTU(std::int64_t value) {
+    HeightWindow window{header_.HeightScale, header_.BaseHeight};
+    const std::int64_t high = MaxTU();
+    const std::int64_t low = window.SetLow(NarrowTo16(value), high);
+    const std::int16_t cache = NarrowTo16(low);
+    header_.HeightScale = NarrowTo16(window.scale);
+    header_.BaseHeight = NarrowTo16(window.base);
+    minTUCache_ = cache;
+}
+
+/// MinTU and MaxTU written one after the other, but with what lies between them taken wide, so
+/// that it always works.
+void clsTerrain::SetWindow(double low, double high) {
+    static constexpr double most = 16383;
+    const auto limited = [](double altitude) {
+        return static_cast<std::int64_t>(RoundHalfEven(std::clamp(altitude, -most, most)));
+    };
+    HeightWindow window{header_.HeightScale, header_.BaseHeight};
+    window.SetLow(limited(low), window.High());
+    const std::int16_t lowAsRead = window.Low();
+    const std::int64_t highAsWritten = window.SetHigh(limited(high), lowAsRead);
+    minTUCache_ = lowAsRead;
+    maxTUCache_ = LimitTo16(highAsWritten);
+    header_.HeightScale = LimitTo16(window.scale);
+    header_.BaseHeight = LimitTo16(window.base);
+}
+
+void clsTerrain::BaseHeight(std::int64_t value) {
+    header_.BaseHeight = NarrowTo16(value);
+}
+
+void clsTerrain::HeightScale(std::int64_t value) {
+    header_.HeightScale = NarrowTo16(value);
+}
+
+void clsTerrain::CRVM(std::int64_t value) {
+    header_.CRVM = NarrowTo16(value);
+}
+
+float clsTerrain::getMeter2Pixel(float metres) const {
+    return NarrowToSingle(
+        Ratio(Ratio(metres, ScaleT(), "ScaleT") * 65536.0, HeightScale(), "HeightScale"));
+}
+
+float clsTerrain::getPixel2Meters(float raw) const {
+    return NarrowToSingle(double{ScaleT()} * raw / 65536.0 * HeightScale());
+}
+
+float clsTerrain::GetV2Meter(float raw) const {
+    return NarrowToSingle((HeightScale() * double{raw} / 65536.0 + BaseHeight()) * ScaleT());
+}
+
+Height clsTerrain::GetMeter2Int(float metres) const {
+    const double units = Ratio(metres, ScaleT(), "ScaleT") - BaseHeight();
+    return RoundTo32(Ratio(units * 65536.0, HeightScale(), "HeightScale"));
+}
+
+float clsTerrain::GetPointMeters(int x, int y) const {
+    const Height raw = cells_[Index(x, y)];
+    NarrowTo32(std::int64_t{raw} * HeightScale());
+    return NarrowToSingle((HeightScale() * double(raw) / 65536.0 + BaseHeight()) * ScaleT());
+}
+
+float clsTerrain::GetPointTU(int x, int y) const {
+    return GetPointTUZ(cells_[Index(x, y)]);
+}
+
+float clsTerrain::GetPointTUZ(Height raw) const {
+    return NarrowToSingle(NarrowTo32(std::int64_t{raw} * HeightScale()) / 65536.0 + BaseHeight());
+}
+
+void clsTerrain::IncrPoint(int x, int y, Height d) {
+    if (!InGrid(x, y))
+        return;
+    Height& cell = cells_[Index(x, y)];
+    cell = NarrowTo32(std::int64_t{cell} + d);
+    Widen(d, d);
+}
+
+void clsTerrain::Fill(Height z) {
+    std::fill_n(cells_.data(), cells_.size(), z);
+    minZ_ = std::min(searchedLow, z);
+    maxZ_ = std::max(searchedHigh, z);
+}
+
+std::int64_t clsTerrain::Range() {
+    return std::int64_t{GetExtremes(1)} - minZ_;
+}
+
+Height clsTerrain::GetExtremes(int mode) {
+    Extremes found{searchedLow, searchedHigh};
+    FindExtremes(cells_.data(), XPoints(), XPoints(), side_, found);
+    minZ_ = found.low;
+    maxZ_ = found.high;
+    if (mode == 1)
+        return maxZ_;
+    return mode == 2 ? minZ_ : 0;
+}
+
+std::int64_t clsTerrain::ScaleTerrain() {
+    // With FixHeight two cells hold the full range for the time of the measurement.
+    const Height first = GetPoint(1, 1);
+    const Height second = GetPoint(1, 2);
+    if (fixHeight_) {
+        SetPoint(1, 1, 32767);
+        SetPoint(1, 2, -32767);
+    }
+    const std::int64_t span = Range();
+    const bool fullOrFlat = span == 65534 || span == 0;
+    const bool in16Bits = minZ_ >= INT16_MIN && maxZ_ <= INT16_MAX;
+    if (!fullOrFlat || !in16Bits) {
+        if (!fixHeight_) {
+            const double units = HeightScale() / 65536.0;
+            SetWindow(static_cast<float>(minZ_ * units + BaseHeight()),
+                      static_cast<float>(maxZ_ * units + BaseHeight()));
+        }
+        const double factor = fullOrFlat ? 1.0 : 65535.0 / static_cast<double>(span + 1);
+        StretchTo(factor, maxZ_ - static_cast<double>(span) / 2);
+    }
+    if (fixHeight_) {
+        SetPoint(1, 1, first);
+        SetPoint(1, 2, second);
+        return Range();
+    }
+    return std::int64_t{maxZ_} - minZ_;
+}
+
+/// Every cell becomes round(factor * (cell - centre)), and the extremes are true afterwards. One
+/// row and one column of the margin are taken in; their cells may lie anywhere.
+void clsTerrain::StretchTo(double factor, double centre) {
+    Extremes stored{searchedLow, searchedHigh};
+    StretchRows(cells_.data(), XPoints(), XPoints(), side_, factor, centre, stored);
+    minZ_ = stored.low;
+    maxZ_ = stored.high;
+    const auto stretchMargin = [&](int x, int y) {
+        Height& cell = cells_[Index(x, y)];
+        const double z = RoundHalfEven(factor * (cell - centre));
+        cell = static_cast<Height>(std::clamp<double>(z, INT32_MIN, INT32_MAX));
+    };
+    const int margin = XPoints();
+    for (int i = 0; i < margin; ++i) {
+        stretchMargin(i, margin);
+        stretchMargin(margin, i);
+    }
+    stretchMargin(margin, margin);
+}
+
+SquareArray clsTerrain::GetTerrain() const {
+    SquareArray array(Size() + 10, 0);
+    for (int y = 0; y <= Size() + 2; ++y) {
+        const auto row = Row(y);
+        std::copy(row.begin(), row.end(), array.Row(y));
+    }
+    return array;
+}
+
+void clsTerrain::SetTerrain(const SquareArray& array) {
+    HeightWriter writer(*this);
+    for (int y = 0; y <= Size() + 2; ++y) {
+        const auto row = writer.Row(y);
+        std::copy_n(array.Row(y), row.size(), row.begin());
+        const auto [low, high] = std::minmax_element(row.begin(), row.end());
+        writer.Stored(*low, *high);
+    }
+}
+
+void clsTerrain::RequireInGrid(int x1, int y1, int x2, int y2) const {
+    if (!InGrid(x1, y1) || !InGrid(x2, y2))
+        throw Fault("the area " + std::to_string(x1) + "," + std::to_string(y1) + " to " +
+                    std::to_string(x2) + "," + std::to_string(y2) + " leaves the grid of 0 to " +
+                    std::to_string(Size() + 2));
+}
+
+void clsTerrain::GetReflectHor(int x1, int y1, int x2, int y2) {
+    if (x1 > x2 || y1 > y2)
+        return;
+    RequireInGrid(x1, y1, x2, y2);
+    for (int upper = y1, lower = y2; upper < lower; ++upper, --lower)
+        std::swap_ranges(&cells_[Index(x1, upper)], &cells_[Index(x2, upper)] + 1,
+                         &cells_[Index(x1, lower)]);
+}
+
+void clsTerrain::GetReflectVer(int x1, int y1, int x2, int y2) {
+    if (x1 > x2 || y1 > y2)
+        return;
+    RequireInGrid(x1, y1, x2, y2);
+    for (int y = y1; y <= y2; ++y)
+        std::reverse(&cells_[Index(x1, y)], &cells_[Index(x2, y)] + 1);
+}
+
+void clsTerrain::GetCircle(double cx, double cy, int r, Height z) {
+    const int x = RoundTo32(cx);
+    const int y = RoundTo32(cy);
+    for (int i = 0; i <= r; ++i) {
+        const int h = RoundTo32(std::sqrt(double{1} * r * r - double{1} * i * i));
+        for (int j = 0; j <= h; ++j) {
+            SetPoint(x + i, y + j, z);
+            SetPoint(x - i, y + j, z);
+            SetPoint(x + i, y - j, z);
+            SetPoint(x - i, y - j, z);
+        }
+    }
+}
+
+void clsTerrain::GetSquare(double cx, double cy, int r, Height z) {
+    const int x = RoundTo32(cx);
+    const int y = RoundTo32(cy);
+    for (int j = -r; j <= r; ++j)
+        for (int i = -r; i <= r; ++i)
+            SetPoint(x + i, y + j, z);
+}
+
+void clsTerrain::GetNoise(double cx, double cy, int r, Height z, RandomSource& chance) {
+    const int centreX = RoundTo32(cx);
+    const int centreY = RoundTo32(cy);
+    for (int i = 0; i < r; ++i) {
+        const int x = RoundTo32(2 * chance.Uniform() * r + centreX - r);
+        const int y = RoundTo32(2 * chance.Uniform() * r + centreY - r);
+        SetPoint(x, y, z);
+    }
+}
+
+}  // namespace quillbrand

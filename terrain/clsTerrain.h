@@ -1,0 +1,213 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <span>
+
+#include "base/GridMemory.h"
+#include "base/RandomSource.h"
+#include "terrain/TerHeader.h"
+
+namespace quillbrand {
+
+/// A raw height. -32768..32767 spans the height window; work in hand may leave that range.
+using Height = std::int32_t;
+
+/// A square grid of raw heights with the header values of its file, and the only code that touches
+/// that memory. Grid indices run from 0 to Size() + 2 in both directions: 0..Size() is the terrain,
+/// the two further rows and columns are a margin that files do not store. x runs fastest in memory,
+/// y = 0 is the top row of the picture.
+///
+/// Three height scales: raw; TU (terrain units) = raw * HeightScale / 65536 + BaseHeight;
+/// metres = TU * ScaleT.
+///
+/// A property is a pair of overloads, the one with an argument writes. A 16-bit property given
+/// more than 16 bits throws Fault and stays as it was.
+class clsTerrain {
+  public:
+    /// 257 points per side, all 0, HeightScale 30, BaseHeight 5, ScaleT 30, CRAD 6370.
+    clsTerrain();
+
+    int pProgress = 0;  ///< percent of the work in hand
+
+    bool FixHeight() const { return fixHeight_; }
+    void FixHeight(bool fix) { fixHeight_ = fix; }
+
+    /// The upper end of the height window in TU. A read is remembered: writing the other end starts
+    /// from it. Writing a value that is not above MinTU writes MinTU + 1.
+    int MaxTU();
+    void MaxTU(std::int64_t value);
+
+    /// The lower end. Writing a value that is not below MaxTU writes MaxTU - 1.
+    int MinTU();
+    void MinTU(std::int64_t value);
+
+    int BaseHeight() const { return header_.BaseHeight; }
+    void BaseHeight(std::int64_t value);
+    int HeightScale() const { return header_.HeightScale; }
+    void HeightScale(std::int64_t value);
+    int CRVM() const { return header_.CRVM; }
+    void CRVM(std::int64_t value);
+    float CRAD() const { return header_.CRAD; }
+    void CRAD(float kilometres) { header_.CRAD = kilometres; }
+    float ScaleT() const { return header_.ScaleZ; }
+    void ScaleT(float metres) { header_.ScaleX = header_.ScaleY = header_.ScaleZ = metres; }
+
+    int YPoints() const { return header_.YPoints; }
+    void YPoints(std::int64_t value) { Size(value - 1); }
+    int XPoints() const { return header_.XPoints; }
+    void XPoints(std::int64_t value) { Size(value - 1); }
+
+    /// Intervals per side. Writing it keeps the grid: only Init makes a new one, and a size that
+    /// the present grid cannot hold is a Fault.
+    int Size() const { return header_.Size; }
+    void Size(std::int64_t value);
+
+    /// The running extremes. SetPoint widens them, Range makes them true.
+    Height min() const { return minZ_; }
+    Height max() const { return maxZ_; }
+
+    /// Metres to a raw height difference and back. Fault where ScaleT or HeightScale is 0.
+    float getMeter2Pixel(float metres) const;
+    float getPixel2Meters(float raw) const;
+
+    /// A raw height to metres, base included, and back.
+    float GetV2Meter(float raw) const;
+    Height GetMeter2Int(float metres) const;
+
+    /// The cell in metres and in TU. x, y must lie in the grid. Fault when raw * HeightScale leaves
+    /// 32 bits.
+    float GetPointMeters(int x, int y) const;
+    float GetPointTU(int x, int y) const;
+    float GetPointTUZ(Height raw) const;
+
+    /// Stores z and widens the running extremes; outside the grid nothing happens.
+    void SetPoint(int x, int y, Height z) {
+        if (!InGrid(x, y))
+            return;
+        cells_[Index(x, y)] = z;
+        Widen(z, z);
+    }
+
+    /// Adds d to the cell. The running extremes are widened by d itself, not by the new height, so
+    /// they are stale until Range runs. Fault when the height leaves 32 bits.
+    void IncrPoint(int x, int y, Height d);
+
+    /// The cell nearest to x, y.
+    Height GetPoint(int x, int y) const {
+        const int last = header_.Size + 2;
+        return cells_[Index(std::clamp(x, 0, last), std::clamp(y, 0, last))];
+    }
+
+    /// The same, counted from the bottom of the 16-bit range.
+    std::int64_t GetPointH(int x, int y) const { return std::int64_t{GetPoint(x, y)} + 32768; }
+
+    /// A new grid of `points` per side, all 0; the running extremes start at 400000 and -400000.
+    /// Fault, with the old grid kept, for less than 1 point or more than 16 bits of them.
+    void Init(std::int64_t points);
+
+    /// Writes z into every cell, margin included.
+    void Fill(Height z);
+
+    /// Makes the running extremes true, without the margin; returns the span.
+    std::int64_t Range();
+
+    /// Stretches the heights to the full 16-bit range and returns the span afterwards. MinTU and
+    /// MaxTU follow, so that altitudes survive, as far as they lie within -16383..16383. With
+    /// FixHeight set neither heights inside the range nor the window change. Never throws.
+    std::int64_t ScaleTerrain();
+
+    /// A copy of the cells in an array with the upper index Size() + 10; the rest is 0.
+    SquareArray GetTerrain() const;
+
+    /// Stores the cells (0..Size() + 2)² of `array`, whose upper index must reach that far.
+    void SetTerrain(const SquareArray& array);
+
+    /// Mirrors a rectangle, bounds inclusive and inside the grid, top to bottom (Hor) or left to
+    /// right (Ver). The running extremes stay. Fault when a bound lies outside the grid.
+    void GetReflectHor(int x1, int y1, int x2, int y2);
+    void GetReflectVer(int x1, int y1, int x2, int y2);
+
+    /// A filled disc, a filled square and r random dots, with the height z; radius r; the centre
+    /// is rounded once; what lies outside the grid is left out.
+    void GetCircle(double cx, double cy, int r, Height z);
+    void GetSquare(double cx, double cy, int r, Height z);
+    void GetNoise(double cx, double cy, int r, Height z, RandomSource& chance);
+
+    /// The header record, for the files.
+    const TerHeader& Header() const { return header_; }
+    void FillHeaderTags() { header_.FillTags(); }
+
+    /// Takes over a record, its size included: a new grid of that size, all 0. Fault as in Init.
+    void SetHeader(const TerHeader& header);
+
+    /// Row y with its margin, Size() + 3 cells; 0 <= y <= Size() + 2.
+    std::span<const Height> Row(int y) const {
+        return {cells_.data() + Index(0, y), static_cast<std::size_t>(header_.Size + 3)};
+    }
+
+  private:
+    friend class HeightWriter;
+
+    std::size_t Index(int x, int y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(side_) +
+               static_cast<std::size_t>(x);
+    }
+    bool InGrid(int x, int y) const {
+        const auto last = static_cast<unsigned>(header_.Size + 2);
+        return static_cast<unsigned>(x) <= last && static_cast<unsigned>(y) <= last;
+    }
+    void Widen(Height low, Height high) {
+        minZ_ = std::min(minZ_, low);
+        maxZ_ = std::max(maxZ_, high);
+    }
+
+    /// mode 1 returns the maximum, 2 the minimum, any other 0; all make the extremes true.
+    Height GetExtremes(int mode);
+    void StretchTo(double factor, double centre);
+    void SetWindow(double low, double high);
+    void RequireInGrid(int x1, int y1, int x2, int y2) const;
+
+    TerHeader header_;
+    int side_ = 0;  ///< cells per side of the grid; Size() + 3 never exceeds it
+    GridBuffer<Height> cells_;
+    Height maxZ_ = 0;
+    Height minZ_ = 0;
+    std::int16_t minTUCache_ = 0;
+    std::int16_t maxTUCache_ = 0;
+    bool fixHeight_ = false;
+};
+
+/// Write access for a pass over whole rows. The pass tells the extremes of what it stored; the
+/// running extremes of the terrain take them in when the writer goes.
+class HeightWriter {
+  public:
+    explicit HeightWriter(clsTerrain& terrain) : terrain_(terrain) {}
+    HeightWriter(const HeightWriter&) = delete;
+    HeightWriter& operator=(const HeightWriter&) = delete;
+    ~HeightWriter() {
+        if (low_ <= high_)
+            terrain_.Widen(low_, high_);
+    }
+
+    /// Row y with its margin, Size() + 3 cells; 0 <= y <= Size() + 2.
+    std::span<Height> Row(int y) {
+        return {terrain_.cells_.data() + terrain_.Index(0, y),
+                static_cast<std::size_t>(terrain_.Size() + 3)};
+    }
+
+    /// Cells from one row to the next.
+    std::ptrdiff_t Stride() const { return terrain_.side_; }
+
+    void Stored(Height low, Height high) {
+        low_ = std::min(low_, low);
+        high_ = std::max(high_, high);
+    }
+
+  private:
+    clsTerrain& terrain_;
+    Height low_ = INT32_MAX;
+    Height high_ = INT32_MIN;
+};
+
+}  // namespace quillbrand
