@@ -29,10 +29,9 @@ void BuildHeightPicture(Picture& raster, clsTerrain& terrain, int paletteRow, Ho
     const QRgb* const strip = PaletteStrip(paletteRow).data();
     for (int y = 0; y < points; ++y) {
         ColourRow(terrain.Row(y).data(), points, strip, raster.Row(y));
-        const int percent = PercentOf(y, points);
-        host.Progress(percent);
+        host.Progress(PercentOf(y, points));
         host.Yield();
-        if (percent == 50)
+        if (y == points / 2)
             host.Status("create Picture ...");
     }
     host.Progress(100);

@@ -24,7 +24,8 @@ clsTerrain GridFrom(const std::string& rows) {
 std::string TextOf(const clsTerrain& terrain) {
     std::string text;
     for (int y = 0; y <= terrain.Size(); ++y) {
-        if (y > 0) text += " / ";
+        if (y > 0)
+            text += " / ";
         for (int x = 0; x <= terrain.Size(); ++x)
             text += (x > 0 ? " " : "") + std::to_string(terrain.GetPoint(x, y));
     }
@@ -34,8 +35,8 @@ std::string TextOf(const clsTerrain& terrain) {
 void FillWithChance(clsTerrain& terrain, Height low, Height high, RandomSource& chance) {
     for (int y = 0; y <= terrain.Size() + 2; ++y)
         for (int x = 0; x <= terrain.Size() + 2; ++x)
-            terrain.SetPoint(x, y, low + static_cast<Height>(chance.Uniform() *
-                                                             (double(high) - low + 1)));
+            terrain.SetPoint(
+                x, y, low + static_cast<Height>(chance.Uniform() * (double(high) - low + 1)));
     terrain.Range();
 }
 

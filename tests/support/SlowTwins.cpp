@@ -8,13 +8,16 @@ namespace {
 
 void SmoothPoint(clsTerrain& t, int x, int y, const QBFilter::Area& area) {
     const Height h = t.GetPoint(x, y);
-    if (!(area.zMin < h && h < area.zMax)) return;
+    if (!(area.zMin < h && h < area.zMax))
+        return;
     const double s = double(t.GetPoint(x - 1, y - 1)) + t.GetPoint(x - 1, y + 1) +
                      t.GetPoint(x, y) + t.GetPoint(x + 1, y - 1) + t.GetPoint(x + 1, y + 1);
     t.SetPoint(x, y, static_cast<Height>(std::nearbyint(s / 5.0)));
 }
 
-std::int32_t Round(double value) { return static_cast<std::int32_t>(std::nearbyint(value)); }
+std::int32_t Round(double value) {
+    return static_cast<std::int32_t>(std::nearbyint(value));
+}
 
 }  // namespace
 

@@ -10,7 +10,8 @@ namespace fs = std::filesystem;
 
 TemporaryFolder::TemporaryFolder() {
     std::string name = (fs::temp_directory_path() / "quillbrand-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    if (mkdtemp(name.data()) == nullptr)
+        throw std::runtime_error("no temporary folder");
     path_ = name;
 }
 
@@ -23,13 +24,17 @@ int TemporaryFolder::Entries() const {
     return static_cast<int>(std::distance(fs::directory_iterator(path_), fs::directory_iterator()));
 }
 
-Bytes Contents(const fs::path& path) { return ReadFile(path, std::size_t{1} << 30); }
+Bytes Contents(const fs::path& path) {
+    return ReadFile(path, std::size_t{1} << 30);
+}
 
 std::string TextOf(const fs::path& path) {
     const Bytes bytes = Contents(path);
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
-void WriteText(const fs::path& path, const std::string& text) { ReplaceFile(path, AsBytes(text)); }
+void WriteText(const fs::path& path, const std::string& text) {
+    ReplaceFile(path, AsBytes(text));
+}
 
 }  // namespace quillbrand

@@ -1,0 +1,238 @@
+#include "terrain/clsTerrain.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Fault.h"
+#include "terrain/TerrainGuard.h"
+#include "tests/support/Grids.h"
+#include "tests/support/SlowTwins.h"
+
+namespace quillbrand {
+namespace {
+
+TEST(clsTerrain, BeginsWithItsDefaults) {
+    clsTerrain terrain;
+    EXPECT_EQ(terrain.Size(), 256);
+    EXPECT_EQ(terrain.XPoints(), 257);
+    EXPECT_EQ(terrain.YPoints(), 257);
+    EXPECT_EQ(terrain.ScaleT(), 30.0f);
+    EXPECT_EQ(terrain.CRAD(), 6370.0f);
+    EXPECT_EQ(terrain.CRVM(), 0);
+    EXPECT_EQ(terrain.min(), 65535);
+    EXPECT_EQ(terrain.max(), -63366);
+    EXPECT_EQ(terrain.MinTU(), -10);
+    EXPECT_EQ(terrain.MaxTU(), 20);
+    terrain.Init(3);
+    EXPECT_EQ(terrain.min(), 400000);
+    EXPECT_EQ(terrain.max(), -400000);
+}
+
+TEST(clsTerrain, ClampsReadsAndIgnoresWritesOutsideTheMargin) {
+    clsTerrain terrain = GridFrom("1 2 3 / 4 5 6 / 7 8 9");
+    terrain.SetPoint(4, 4, 99);
+    EXPECT_EQ(terrain.GetPoint(-5, 1), 4);
+    EXPECT_EQ(terrain.GetPoint(100, 100), 99);
+    EXPECT_EQ(terrain.GetPointH(1, 1), 32773);
+    const auto before = AllCells(terrain);
+    terrain.SetPoint(5, 0, 7000);
+    terrain.SetPoint(0, -1, 7000);
+    terrain.IncrPoint(5, 0, 7000);
+    EXPECT_EQ(AllCells(terrain), before);
+    EXPECT_EQ(terrain.max(), 99);
+}
+
+TEST(clsTerrain, ComparesAnIncrementItselfWithTheExtremes) {
+    clsTerrain terrain = GridFrom("20000 20000 / 20000 20000");
+    terrain.IncrPoint(0, 0, 100);
+    EXPECT_EQ(terrain.GetPoint(0, 0), 20100);
+    EXPECT_EQ(terrain.max(), 20000);
+    EXPECT_EQ(terrain.min(), 100);
+    EXPECT_EQ(terrain.Range(), 100);
+    EXPECT_EQ(terrain.max(), 20100);
+    terrain.SetPoint(1, 1, 2147483647);
+    EXPECT_THROW(terrain.IncrPoint(1, 1, 1), Fault);
+    EXPECT_EQ(terrain.GetPoint(1, 1), 2147483647);
+}
+
+TEST(clsTerrain, LooksForExtremesWithoutTheMarginAndWithinFourMillions) {
+    clsTerrain terrain = GridFrom("1 2 / 3 4");
+    terrain.SetPoint(2, 0, 1000);
+    EXPECT_EQ(terrain.Range(), 3);
+    terrain.Fill(5000000);
+    EXPECT_EQ(terrain.Range(), 1000000);
+    EXPECT_EQ(terrain.min(), 4000000);
+}
+
+TEST(HeightWindow, FollowsAPairOfWritesInTheOrderMinMax) {
+    clsTerrain terrain;
+    terrain.BaseHeight(10);
+    terrain.HeightScale(20);
+    terrain.MinTU(-10);
+    terrain.MaxTU(30);
+    EXPECT_EQ(terrain.HeightScale(), 40);
+    EXPECT_EQ(terrain.BaseHeight(), 10);
+    EXPECT_EQ(terrain.MinTU(), -10);
+    EXPECT_EQ(terrain.MaxTU(), 30);
+}
+
+TEST(HeightWindow, HasAWidthOfOneAtLeast) {
+    clsTerrain terrain;
+    terrain.MaxTU(-10);
+    EXPECT_EQ(terrain.HeightScale(), 1);
+    terrain = clsTerrain();
+    terrain.MinTU(25);
+    EXPECT_EQ(terrain.HeightScale(), 1);
+    EXPECT_EQ(terrain.MaxTU(), 20);
+}
+
+TEST(HeightWindow, StaysWhenAWidthLeaves16Bits) {
+    clsTerrain terrain;
+    terrain.MinTU(-20000);
+    const int scale = terrain.HeightScale();
+    EXPECT_THROW(terrain.MaxTU(20000), Fault);
+    EXPECT_EQ(terrain.HeightScale(), scale);
+    EXPECT_THROW(terrain.BaseHeight(32768), Fault);
+}
+
+TEST(Conversions, ConnectTheThreeScales) {
+    clsTerrain terrain = GridFrom("-32768 0 / 16384 32767");
+    terrain.HeightScale(40);
+    terrain.BaseHeight(10);
+    EXPECT_EQ(terrain.GetPointTU(0, 0), -10.0f);
+    EXPECT_EQ(terrain.GetPointMeters(0, 1), 600.0f);
+    EXPECT_EQ(terrain.GetV2Meter(16384), 600.0f);
+    EXPECT_EQ(terrain.GetMeter2Int(600), 16384);
+    EXPECT_EQ(terrain.getMeter2Pixel(30), 1638.4f);
+    EXPECT_EQ(terrain.getPixel2Meters(16384), 300.0f);
+    EXPECT_EQ(terrain.GetPointTUZ(53687091), 32778.0f);
+    EXPECT_THROW(terrain.GetPointTUZ(53687092), Fault);
+    terrain.HeightScale(0);
+    EXPECT_THROW(terrain.getMeter2Pixel(1), Fault);
+    EXPECT_THROW(terrain.GetMeter2Int(1), Fault);
+}
+
+TEST(ScaleTerrain, AgreesWithTheSlowTwinOnRandomGrids) {
+    RandomSource chance(5);
+    for (int turn = 0; turn < 200; ++turn) {
+        clsTerrain fast;
+        fast.Init(2 + turn % 17);
+        const int top = 1 + static_cast<int>(chance.Uniform() * (turn % 3 == 0 ? 20 : 200000));
+        FillWithChance(fast, -top / (1 + turn % 4), top, chance);
+        fast.FixHeight(turn % 5 == 0);
+        clsTerrain slow = fast;
+        const auto span = fast.ScaleTerrain();
+        ASSERT_EQ(span, SlowTwins::ScaleTerrain(slow)) << turn;
+        ASSERT_EQ(AllCells(fast), AllCells(slow)) << turn;
+        ASSERT_EQ(fast.min(), slow.min());
+        ASSERT_EQ(fast.max(), slow.max());
+        ASSERT_EQ(fast.HeightScale(), slow.HeightScale());
+        ASSERT_EQ(fast.BaseHeight(), slow.BaseHeight());
+    }
+}
+
+TEST(ScaleTerrain, KeepsAltitudesWhereTheWindowAllows) {
+    clsTerrain terrain = GridFrom("-1000 1000 / 0 500");
+    terrain.HeightScale(6554);
+    terrain.BaseHeight(0);
+    EXPECT_EQ(terrain.ScaleTerrain(), 65502);
+    EXPECT_EQ(terrain.MinTU(), -100);
+    EXPECT_EQ(terrain.MaxTU(), 100);
+    EXPECT_EQ(terrain.min(), -32751);
+}
+
+TEST(ScaleTerrain, LeavesAFlatGridAloneUnlessItLiesOutside16Bits) {
+    clsTerrain terrain = GridFrom("7 7 / 7 7");
+    EXPECT_EQ(terrain.ScaleTerrain(), 0);
+    EXPECT_EQ(terrain.GetPoint(1, 1), 7);
+    terrain.Fill(2000000000);
+    EXPECT_EQ(terrain.ScaleTerrain(), 0);
+    EXPECT_LE(terrain.max(), 32767);
+}
+
+TEST(ScaleTerrain, WorksHoweverFarHeightsAndWindowLie) {
+    for (const int base : {-32768, 0, 32767}) {
+        for (const int scale : {-32768, 1, 32767}) {
+            clsTerrain terrain = GridFrom("-2147483648 2147483647 0 / 1 2 3 / 4 5 6");
+            terrain.SetPoint(3, 3, -2147483648);
+            terrain.BaseHeight(base);
+            terrain.HeightScale(scale);
+            terrain.ScaleTerrain();
+            EXPECT_GE(terrain.min(), -32768);
+            EXPECT_LE(terrain.max(), 32767);
+        }
+    }
+}
+
+TEST(ScaleTerrain, WithFixHeightKeepsHeightsInsideTheRangeAndTheWindow) {
+    clsTerrain terrain = GridFrom("-1000 1000 0 / 3 4 5 / 6 7 8");
+    terrain.FixHeight(true);
+    const int low = terrain.MinTU();
+    EXPECT_EQ(terrain.ScaleTerrain(), 2000);
+    EXPECT_EQ(TextOf(terrain), "-1000 1000 0 / 3 4 5 / 6 7 8");
+    EXPECT_EQ(terrain.MinTU(), low);
+}
+
+TEST(Reflections, MirrorWithinTheirBoundsOnly) {
+    clsTerrain terrain = GridFrom("1 2 3 / 4 5 6 / 7 8 9");
+    terrain.GetReflectHor(1, 0, 2, 2);
+    EXPECT_EQ(TextOf(terrain), "1 8 9 / 4 5 6 / 7 2 3");
+    terrain.GetReflectVer(0, 1, 2, 2);
+    EXPECT_EQ(TextOf(terrain), "1 8 9 / 6 5 4 / 3 2 7");
+    EXPECT_THROW(terrain.GetReflectVer(0, 0, 5, 0), Fault);
+    EXPECT_EQ(TextOf(terrain), "1 8 9 / 6 5 4 / 3 2 7");
+}
+
+TEST(Shapes, AreCutAtTheGridAndRoundTheirCentreOnce) {
+    clsTerrain terrain = GridFrom("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0");
+    terrain.GetCircle(1.5, 1.4, 1, 5);
+    EXPECT_EQ(TextOf(terrain), "0 0 5 0 / 0 5 5 5 / 0 0 5 0 / 0 0 0 0");
+    terrain.GetSquare(-0.5, 0.5, 1, 8);
+    EXPECT_EQ(TextOf(terrain), "8 8 5 0 / 8 8 5 5 / 0 0 5 0 / 0 0 0 0");
+    terrain.Fill(0);
+    terrain.GetCircle(0, 0, -1, 5);
+    EXPECT_EQ(terrain.Range(), 0);
+    RandomSource chance(3);
+    terrain.GetNoise(1, 1, 3, 9, chance);
+    RandomSource twin(3);
+    for (int i = 0; i < 6; ++i)
+        twin.Uniform();
+    EXPECT_EQ(chance.Uniform(), twin.Uniform());
+    EXPECT_EQ(terrain.max(), 9);
+}
+
+TEST(TerrainArrays, CopyAllCellsBothWays) {
+    RandomSource chance(9);
+    clsTerrain terrain;
+    terrain.Init(6);
+    FillWithChance(terrain, -50, 50, chance);
+    const SquareArray array = terrain.GetTerrain();
+    EXPECT_EQ(array.Upper(), 15);
+    EXPECT_EQ(array(7, 3), terrain.GetPoint(7, 3));
+    EXPECT_EQ(array(8, 3), 0);
+    clsTerrain other;
+    other.Init(6);
+    other.SetTerrain(array);
+    EXPECT_EQ(AllCells(other), AllCells(terrain));
+}
+
+TEST(clsTerrain, KeepsItsGridWhenASizeIsImpossible) {
+    clsTerrain terrain = GridFrom("1 2 / 3 4");
+    EXPECT_THROW(terrain.Size(2), Fault);
+    EXPECT_THROW(terrain.Init(0), Fault);
+    EXPECT_THROW(terrain.Init(32768), Fault);
+    EXPECT_EQ(TextOf(terrain), "1 2 / 3 4");
+}
+
+TEST(TerrainGuard, BringsTheTerrainBackUnlessCommitted) {
+    clsTerrain terrain = GridFrom("1 2 / 3 4");
+    {
+        const TerrainGuard guard(terrain);
+        terrain.Init(9);
+        terrain.HeightScale(1);
+    }
+    EXPECT_EQ(TextOf(terrain), "1 2 / 3 4");
+    EXPECT_EQ(terrain.HeightScale(), 30);
+}
+
+}  // namespace
+}  // namespace quillbrand
