@@ -1,0 +1,56 @@
+#include "batch/BatchHost.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace quillbrand {
+
+namespace {
+
+constexpr auto pause = std::chrono::milliseconds(100);
+
+/// A longer line would wrap and could not be rewritten.
+constexpr std::size_t mostCharacters = 78;
+
+}  // namespace
+
+BatchHost::BatchHost(Session& session, RandomSource& chance, bool showProgress)
+    : SessionHost(session, chance), showProgress_(showProgress), nextDraw_(Clock::now() + pause) {}
+
+void BatchHost::Progress(int percent) {
+    SessionHost::Progress(percent);
+    percent_ = std::clamp(percent, 0, 100);
+}
+
+void BatchHost::Yield() {
+    if (!showProgress_)
+        return;
+    const auto now = Clock::now();
+    if (now < nextDraw_)
+        return;
+    nextDraw_ = now + pause;
+    Draw(status_.substr(0, mostCharacters - 6) + " " + std::to_string(percent_) + " %");
+}
+
+void BatchHost::Draw(const std::string& line) {
+    const std::size_t width = std::max(line.size(), drawn_);
+    std::fprintf(stderr, "\r%-*s", static_cast<int>(width), line.c_str());
+    std::fflush(stderr);
+    drawn_ = line.size();
+}
+
+void BatchHost::ClearLine() {
+    if (drawn_ == 0)
+        return;
+    Draw("");
+    std::fputc('\r', stderr);
+    std::fflush(stderr);
+}
+
+Answer BatchHost::Ask(const Question& question) {
+    if (question.buttons == Buttons::OkCancel)
+        return yes_ ? Answer::Ok : Answer::Cancel;
+    return yes_ ? Answer::Yes : Answer::No;
+}
+
+}  // namespace quillbrand

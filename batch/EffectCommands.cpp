@@ -1,0 +1,41 @@
+#include "shell/EffectCommands.h"
+
+#include "batch/Batch.h"
+#include "batch/Command.h"
+#include "effects/QBFilter.h"
+
+namespace quillbrand {
+
+namespace {
+
+void RunEffect(Batch& batch, const Arguments& given) {
+    StartEffect(batch.session, given.Get<int>("name"),
+                static_cast<float>(given.Get<double>("strength")), given.Get<int>("zmin"),
+                given.Get<int>("zmax"), batch.host);
+}
+
+std::vector<std::string_view> EffectCaptions() {
+    std::vector<std::string_view> captions;
+    for (const QBFilter::Effect& effect : QBFilter::Effects())
+        captions.push_back(effect.caption);
+    return captions;
+}
+
+}  // namespace
+
+std::vector<Command> EffectCommandTable() {
+    return {
+        {"effect",
+         "runs an effect on the whole terrain; the last four keys are for natural erosion",
+         {Key{"name", Choice(EffectCaptions(), 1)}.Required(),
+          Key{"strength", Number(0, 10)}.Default("1"), Key{"zmin", WholeNumber()}.Default("-32768"),
+          Key{"zmax", WholeNumber()}.Default("32768"),
+          Key{"drops", WholeNumber(1000, 50000)}.Default("10000"),
+          Key{"width", WholeNumber(1, 20)}.Default("9"),
+          Key{"slide", WholeNumber(1, 10)}.Default("4"),
+          Key{"erosion", WholeNumber(1, 8)}.Default("3")},
+         RunEffect},
+    };
+}
+
+}  // namespace quillbrand

@@ -1,0 +1,86 @@
+#include <array>
+
+#include "base/Fault.h"
+#include "base/Picture.h"
+#include "base/Text.h"
+#include "batch/Batch.h"
+#include "batch/Command.h"
+#include "editor/HeightPicture.h"
+#include "editor/Palette.h"
+#include "shell/TerrainCommands.h"
+
+namespace quillbrand {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> openKinds = {"ter", "hgt", "picture"};
+constexpr std::array gridPoints = {129, 257, 513, 1025, 2049};
+
+std::string KindByExtension(const std::filesystem::path& file) {
+    const std::string extension = LowerCase(file.extension().string());
+    if (extension == ".ter")
+        return "ter";
+    return extension == ".hgt" ? "hgt" : "picture";
+}
+
+void Open(Batch& batch, const Arguments& given) {
+    const auto file = given.Get<std::string>("file");
+    const std::string kind = given.GetOr("as", KindByExtension(file));
+    if (kind != "ter")
+        throw Fault("opening " + file + " as " + kind + " is not available in this version");
+    batch.host.AnswerYes(given.Get<bool>("refine"));
+    if (!OpenTerrain(batch.session, file, batch.host))
+        throw Fault(file + " is not a Terragen terrain");
+}
+
+void Save(Batch& batch, const Arguments& given) {
+    SaveTerrain(batch.session, given.Get<std::string>("file"), given.Get<bool>("scale"),
+                batch.host);
+}
+
+void SavePicture(Batch& batch, const Arguments& given) {
+    Picture picture;
+    BuildHeightPicture(picture, batch.session.CurrentTerrain, given.Get<int>("row"), batch.host);
+    picture.Save(given.Get<std::string>("file"));
+}
+
+void Backup(Batch& batch, const Arguments& given) {
+    BackupTerrain(batch.session, given.Get<std::string>("file"));
+}
+
+void Restore(Batch& batch, const Arguments& given) {
+    RestoreTerrain(batch.session, given.Get<std::string>("file"));
+}
+
+void SavePerlin(Batch& batch, const Arguments& given) {
+    SaveAsPerlinSet(batch.session, given.Get<std::string>("file"), given.Get<std::string>("name"),
+                    batch.host);
+}
+
+}  // namespace
+
+std::vector<Command> FileCommandTable() {
+    const Key file = Key{"file", FileName()}.Required();
+    return {
+        {"open",
+         "reads a terrain",
+         {file, Key{"as", OneOf(openKinds)}.Otherwise("by the extension"),
+          Key{"refine", YesNo()}.Default("no"), Key{"repair", YesNo()}.Default("no"),
+          Key{"points", OneOf(gridPoints)}},
+         Open},
+        {"save", "writes the terrain as TER", {file, Key{"scale", YesNo()}.Default("yes")}, Save},
+        {"picture",
+         "writes the height picture, one pixel a point",
+         {Key{"file", PictureName()}.Required(),
+          Key{"row", Choice(PaletteNames(), 0)}.Default("0")},
+         SavePicture},
+        {"backup", "writes heights and header values as they are", {file}, Backup},
+        {"restore", "brings back what backup wrote", {file}, Restore},
+        {"perlinset",
+         "writes the terrain as a .QPS file",
+         {file, Key{"name", AnyText()}.Required()},
+         SavePerlin},
+    };
+}
+
+}  // namespace quillbrand

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "batch/Command.h"
+
+namespace quillbrand {
+
+/// A command with its arguments, ready to run.
+struct Step {
+    const Command* command;
+    Arguments arguments;
+    std::string place;  ///< where in a script it stands, or nothing
+};
+
+/// The step that an argument of the command line asks for. Throws UsageError for an unknown word
+/// or key, a value that is not allowed, a required key that is missing, a key given twice.
+Step ParseCommand(const std::string& argument);
+
+/// The steps of a script: one command a line, `#` at the start of a word begins a comment, empty
+/// lines count for nothing. `name` is what messages call the script. Throws UsageError.
+std::vector<Step> ParseScript(const std::string& text, const std::string& name);
+
+}  // namespace quillbrand

@@ -1,0 +1,69 @@
+#include "shell/SubMain.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "base/IniFile.h"
+#include "base/NumberText.h"
+#include "base/Numbers.h"
+#include "base/Stdio.h"
+#include "editor/Palette.h"
+
+namespace quillbrand {
+
+namespace {
+
+/// Points per side by the index that the settings hold as text.
+int StartPoints(const std::string& optTer) {
+    constexpr std::array points = {129, 257, 513, 1025, 2049};
+    if (optTer.size() != 1 || optTer[0] < '0' || optTer[0] > '4')
+        return 257;
+    return points[static_cast<std::size_t>(optTer[0] - '0')];
+}
+
+/// A number of the section "Start", limited to 0..`most`, so that a damaged file cannot choose
+/// what does not exist.
+int StartNumber(const IniFile& settings, const std::string& key, int most) {
+    const double value = RoundHalfEven(Val(settings.Get("Start", key)));
+    return static_cast<int>(std::clamp<double>(value, 0, most));
+}
+
+void ReadSettings(Session& session) {
+    const IniFile settings = IniFile::Read(session.IniPath);
+    session.ObjectDirectory = settings.Get("Objects", "Directory");
+    session.TerrainDirectory = settings.Get("Terrain", "Directory");
+    session.ResizeMode = StartNumber(settings, "OptZoom", 2);
+    session.PaletteRow = StartNumber(settings, "COLOR", paletteRows - 1);
+    session.CurrentTerrain.Init(StartPoints(settings.Get("Start", "OptTer")));
+}
+
+void SetStartWindow(clsTerrain& terrain) {
+    terrain.ScaleT(30);
+    terrain.BaseHeight(10);
+    terrain.HeightScale(20);
+    terrain.MinTU(-10);
+    terrain.MaxTU(30);
+}
+
+}  // namespace
+
+void SubMain(Session& session, const std::filesystem::path& programFolder,
+             const std::string& startFile, RandomSource& chance) {
+    session.ProgramFolder = programFolder;
+    session.IniPath = programFolder / "Quillbrand.ini";
+    session.PluginFolder = programFolder / "plugins";
+    ReadSettings(session);
+    SetStartWindow(session.CurrentTerrain);
+    if (STDIO::FileExists(startFile))
+        session.StartFile = startFile;
+
+    chance.ReseedFromClock();
+    session.RandomSeedValue = static_cast<int>(std::floor(999999 * chance.Uniform()));
+
+    session.CurrentTerrain.Fill(0);
+    session.CurrentTerrain.pProgress = 100;
+    session.PerlinSets = ScanPerlinSets(programFolder / "PS");
+}
+
+}  // namespace quillbrand

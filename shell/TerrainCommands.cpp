@@ -1,0 +1,85 @@
+#include "shell/TerrainCommands.h"
+
+#include "base/Fault.h"
+#include "generator/PerlinSetFile.h"
+#include "terrain/Backup.h"
+#include "terrain/ScaleTerrainStep.h"
+#include "terrain/TerWriter.h"
+#include "terrain/TerrainGuard.h"
+
+namespace quillbrand {
+
+void NewTerrain(Session& session) {
+    session.CurrentTerrain.Init(session.CurrentTerrain.XPoints());
+    session.TerrainEmpty = true;
+}
+
+void ClearTerrain(Session& session, int points) {
+    clsTerrain& terrain = session.CurrentTerrain;
+    const int heightScale = terrain.HeightScale();
+    const int baseHeight = terrain.BaseHeight();
+    try {
+        terrain.MinTU(-10);
+        terrain.MaxTU(30);
+        terrain.Init(points);
+    } catch (...) {
+        terrain.HeightScale(heightScale);
+        terrain.BaseHeight(baseHeight);
+        throw;
+    }
+    session.TerrainEmpty = true;
+    session.CurrentFile = Session::noFile;
+}
+
+bool OpenTerrain(Session& session, const std::filesystem::path& path, Host& host) {
+    host.Status("Load Terrainfile...");
+    host.Yield();
+    const mTerLoad::Memory memory = session.LoadMemory;
+    bool isTer = false;
+    try {
+        isTer = mTerLoad::LoadTerrain(path, session.CurrentTerrain, session.LoadMemory, host);
+    } catch (...) {
+        session.LoadMemory = memory;
+        throw;
+    }
+    session.CurrentFile = path.string();
+    session.ViewZoom = 1.0;
+    session.TerrainEmpty = false;
+    return isTer;
+}
+
+void SaveTerrain(Session& session, const std::filesystem::path& path, bool scale, Host& host) {
+    if (session.TerrainEmpty)
+        throw Fault("Terrain empty !", "Save");
+    host.Busy(true);
+    host.Status("Save Terrainfile...");
+    host.Yield();
+    clsTerrain& terrain = session.CurrentTerrain;
+    TerrainGuard guard(terrain);
+    if (scale)
+        ScaleTerrainStep(terrain, host);
+    SaveT(terrain, path, host);
+    guard.Commit();
+    session.CurrentFile = path.string();
+    session.TerrainSaved = true;
+    host.Busy(false);
+}
+
+void BackupTerrain(Session& session, const std::filesystem::path& path) {
+    SaveBackup(session.CurrentTerrain, path);
+    session.BackupExists = true;
+}
+
+void RestoreTerrain(Session& session, const std::filesystem::path& path) {
+    LoadBackup(session.CurrentTerrain, path);
+    session.CurrentTerrain.Range();
+}
+
+void SaveAsPerlinSet(Session& session, const std::filesystem::path& path, const std::string& name,
+                     Host& host) {
+    TerrainGuard guard(session.CurrentTerrain);
+    SavePerlinSet(session.CurrentTerrain, path, name, host);
+    guard.Commit();
+}
+
+}  // namespace quillbrand

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "base/Host.h"
+#include "shell/Session.h"
+
+namespace quillbrand {
+
+// The commands on the document as a whole. Each one that throws Fault leaves session and terrain
+// as they were. Showing the result is the caller's.
+
+/// "Neu": flat heights on the same grid. File name and height window stay.
+void NewTerrain(Session& session);
+
+/// "Löschen", answered with Yes: a flat grid of `points` per side, window -10..30, no file.
+void ClearTerrain(Session& session, int points);
+
+/// "Öffnen" of a TER file. Returns false for a file that is none; the heights then stay, but the
+/// session goes on as if it had been read.
+bool OpenTerrain(Session& session, const std::filesystem::path& path, Host& host);
+
+/// Saves as TER in a file of its own, which becomes the document's. `scale` stretches the heights
+/// to the full range first; without it a height beyond 16 bits is a Fault, and so is an empty
+/// terrain.
+void SaveTerrain(Session& session, const std::filesystem::path& path, bool scale, Host& host);
+
+/// "Backup" into the file `path`.
+void BackupTerrain(Session& session, const std::filesystem::path& path);
+
+/// "Restore" from the file `path`. Name, flags and objects are not part of a backup.
+void RestoreTerrain(Session& session, const std::filesystem::path& path);
+
+/// Saves the terrain as the Perlin set `name` (.QPS), stretched to the full range.
+void SaveAsPerlinSet(Session& session, const std::filesystem::path& path, const std::string& name,
+                     Host& host);
+
+}  // namespace quillbrand

@@ -1,0 +1,20 @@
+#include "shell/vbConfig.h"
+
+#include "base/IniFile.h"
+#include "base/Text.h"
+
+namespace quillbrand::vbConfig {
+
+std::string ReadIni(const Session& session, const std::string& section, const std::string& key) {
+    return IniFile::Read(session.IniPath).Get(section, key);
+}
+
+std::string WriteIni(const Session& session, const std::string& section, const std::string& key,
+                     const std::string& value) {
+    IniFile file = IniFile::Read(session.IniPath);
+    file.Set(section, key, value);
+    file.Write(session.IniPath);
+    return TrimIni(value);
+}
+
+}  // namespace quillbrand::vbConfig

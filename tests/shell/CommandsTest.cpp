@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include "base/Fault.h"
+#include "shell/EffectCommands.h"
+#include "shell/GeneratorCommands.h"
+#include "shell/TerrainCommands.h"
+#include "tests/support/Grids.h"
+#include "tests/support/NoiseSet.h"
+#include "tests/support/RecordingHost.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace quillbrand {
+namespace {
+
+/// Everything that a command could leave changed.
+struct State {
+    std::vector<Height> cells;
+    std::vector<int> numbers;
+    std::string file;
+
+    bool operator==(const State&) const = default;
+};
+
+class Commands : public testing::Test {
+  protected:
+    Commands() {
+        WriteNoiseSet(folder / "PS", "Dots", 140);
+        session.PerlinSets = ScanPerlinSets(folder / "PS");
+        session.CurrentTerrain.Init(129);
+        FillWithChance(session.CurrentTerrain, -1000, 1000, host.chance);
+        session.TerrainEmpty = false;
+        session.CurrentFile = "hill.ter";
+    }
+
+    State Now() const {
+        const clsTerrain& terrain = session.CurrentTerrain;
+        return {AllCells(terrain),
+                {terrain.Size(), terrain.HeightScale(), terrain.BaseHeight(), session.TerrainEmpty,
+                 session.TerrainSaved, session.ModifyMode, session.RandomSeedValue},
+                session.CurrentFile};
+    }
+
+    template <typename Work>
+    void ExpectFaultChangesNothing(Work work) {
+        const State before = Now();
+        EXPECT_THROW(work(), Fault);
+        EXPECT_TRUE(Now() == before);
+    }
+
+    TemporaryFolder folder;
+    Session session;
+    RecordingHost host;
+};
+
+TEST_F(Commands, ThatFailChangeNothing) {
+    const auto nowhere = folder / "nowhere/a.ter";
+    WriteText(folder / "short.ter", "TERRAGENTERRAIN SIZE" + std::string(90, '\1'));
+    WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\nmodify=4\n");
+    GeneratorSettings broken;
+    broken.set = 5;
+    broken.clearTerrain = true;
+    ExpectFaultChangesNothing([&] { SaveTerrain(session, nowhere, true, host); });
+    ExpectFaultChangesNothing([&] { SaveAsPerlinSet(session, nowhere, "x", host); });
+    ExpectFaultChangesNothing([&] { OpenTerrain(session, nowhere, host); });
+    ExpectFaultChangesNothing([&] { OpenTerrain(session, folder / "short.ter", host); });
+    ExpectFaultChangesNothing([&] { RestoreTerrain(session, nowhere); });
+    ExpectFaultChangesNothing([&] { ProduceTerrain(session, 256, broken, host); });
+    ExpectFaultChangesNothing([&] { LoadGenerator(session, folder / "far.par", 0); });
+    session.CurrentTerrain.HeightScale(32767);
+    session.CurrentTerrain.BaseHeight(32767);
+    ExpectFaultChangesNothing([&] { ClearTerrain(session, 257); });
+}
+
+TEST_F(Commands, RefuseAnEmptyTerrain) {
+    session.TerrainEmpty = true;
+    ExpectFaultChangesNothing([&] { SaveTerrain(session, folder / "a.ter", true, host); });
+    ExpectFaultChangesNothing([&] { StartEffect(session, 1, 9, -32768, 32768, host); });
+    EXPECT_FALSE(std::filesystem::exists(folder / "a.ter"));
+}
+
+TEST_F(Commands, ClearForgetsTheFileAndNewKeepsIt) {
+    session.CurrentTerrain.MaxTU(500);
+    NewTerrain(session);
+    EXPECT_EQ(session.CurrentFile, "hill.ter");
+    EXPECT_EQ(session.CurrentTerrain.MaxTU(), 500);
+    EXPECT_TRUE(session.TerrainEmpty);
+    ClearTerrain(session, 5);
+    EXPECT_EQ(session.CurrentFile, "noname");
+    EXPECT_EQ(session.CurrentTerrain.XPoints(), 5);
+    EXPECT_EQ(session.CurrentTerrain.MinTU(), -10);
+    EXPECT_EQ(session.CurrentTerrain.MaxTU(), 30);
+}
+
+TEST_F(Commands, SavedTerrainOpensAgain) {
+    const auto file = folder / "a.ter";
+    SaveTerrain(session, file, true, host);
+    EXPECT_TRUE(session.TerrainSaved);
+    EXPECT_EQ(session.CurrentFile, file.string());
+    const std::string saved = TextOf(session.CurrentTerrain);
+    ClearTerrain(session, 5);
+    EXPECT_TRUE(OpenTerrain(session, file, host));
+    EXPECT_EQ(TextOf(session.CurrentTerrain), saved);
+    EXPECT_FALSE(session.TerrainEmpty);
+    EXPECT_FALSE(host.isBusy);
+}
+
+TEST_F(Commands, BackupBringsHeightsBackButNotTheName) {
+    const auto cells = AllCells(session.CurrentTerrain);
+    BackupTerrain(session, folder / "b.qbt");
+    EXPECT_TRUE(session.BackupExists);
+    ClearTerrain(session, 5);
+    RestoreTerrain(session, folder / "b.qbt");
+    EXPECT_EQ(AllCells(session.CurrentTerrain), cells);
+    EXPECT_GT(session.CurrentTerrain.max(), session.CurrentTerrain.min());
+    EXPECT_EQ(session.CurrentFile, "noname");
+    EXPECT_TRUE(session.TerrainEmpty);
+}
+
+TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
+    session.ModifyMode = Subtraction;
+    ProduceTerrain(session, 128, {.seed = "1"}, host);
+    EXPECT_EQ(session.ModifyMode, Subtraction);
+
+    session.ModifyMode = Multiplication;
+    ProduceTerrain(session, 128, {.seed = "1", .clearTerrain = true}, host);
+    EXPECT_EQ(session.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
+    EXPECT_EQ(session.ModifyMode, Add);
+
+    ClearTerrain(session, 129);
+    ProduceTerrain(session, 128, {.seed = "1"}, host);
+    EXPECT_GT(session.CurrentTerrain.Range(), 60000);
+    EXPECT_FALSE(session.TerrainEmpty);
+}
+
+TEST_F(Commands, GeneratorFileCarriesSeedAndModeOfTheSession) {
+    session.RandomSeedValue = 4711;
+    session.ModifyMode = highest;
+    SaveGenerator(session, folder / "a.par", {.iterations = 7, .seed = {}});
+    session.RandomSeedValue = 0;
+    session.ModifyMode = Add;
+    EXPECT_EQ(LoadGenerator(session, folder / "a.par", 0).iterations, 7);
+    EXPECT_EQ(session.RandomSeedValue, 4711);
+    EXPECT_EQ(session.ModifyMode, highest);
+}
+
+TEST_F(Commands, EffectWorksBetweenItsLimitsOnly) {
+    const auto cells = AllCells(session.CurrentTerrain);
+    StartEffect(session, 1, 5, 5000, 6000, host);
+    EXPECT_EQ(AllCells(session.CurrentTerrain), cells);
+    StartEffect(session, 1, 5, -32768, 32768, host);
+    EXPECT_NE(AllCells(session.CurrentTerrain), cells);
+    EXPECT_FALSE(host.isBusy);
+}
+
+}  // namespace
+}  // namespace quillbrand

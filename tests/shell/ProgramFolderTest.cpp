@@ -1,0 +1,83 @@
+#include "shell/ProgramFolder.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Fault.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace quillbrand {
+namespace {
+
+namespace fs = std::filesystem;
+
+class ProgramFolder : public testing::Test {
+  protected:
+    ProgramFolder() {
+        fs::create_directories(folder / "bin");
+        fs::create_directories(folder / "installed/PS");
+        WriteText(folder / "installed/PS/One.INI", "one");
+        WriteText(folder / "installed/erode0.flt", "picture");
+    }
+
+    TemporaryFolder folder;
+    ProgramFolderPlaces places{.told = {},
+                               .executable = folder / "bin",
+                               .own = folder / "home/share/quillbrand",
+                               .installed = folder / "installed"};
+};
+
+TEST_F(ProgramFolder, IsTheToldOneBeforeAllOthers) {
+    fs::create_directories(folder / "bin/PS");
+    places.told = folder / "installed";
+    EXPECT_EQ(FindProgramFolder(places), folder / "installed");
+}
+
+TEST_F(ProgramFolder, MustExistWhenTold) {
+    places.told = folder / "nowhere";
+    EXPECT_THROW(FindProgramFolder(places), Fault);
+    places.told = folder / "installed/erode0.flt";
+    EXPECT_THROW(FindProgramFolder(places), Fault);
+}
+
+TEST_F(ProgramFolder, IsTheExecutablesWhenThatHoldsTheSets) {
+    fs::create_directories(folder / "bin/PS");
+    EXPECT_EQ(FindProgramFolder(places), folder / "bin");
+    EXPECT_FALSE(fs::exists(places.own));
+}
+
+TEST_F(ProgramFolder, IsOtherwiseTheUsersOwnFilledOnce) {
+    EXPECT_EQ(FindProgramFolder(places), places.own);
+    EXPECT_EQ(TextOf(places.own / "PS/One.INI"), "one");
+    EXPECT_EQ(TextOf(places.own / "erode0.flt"), "picture");
+
+    WriteText(places.own / "PS/One.INI", "mine");
+    fs::remove(places.own / "erode0.flt");
+    EXPECT_EQ(FindProgramFolder(places), places.own);
+    EXPECT_EQ(TextOf(places.own / "PS/One.INI"), "mine");
+    EXPECT_FALSE(fs::exists(places.own / "erode0.flt"));
+}
+
+TEST_F(ProgramFolder, KeepsTheUsersFilesWhenAFirstStartWasCutShort) {
+    fs::create_directories(places.own);
+    WriteText(places.own / "erode0.flt", "mine");
+    FindProgramFolder(places);
+    EXPECT_EQ(TextOf(places.own / "erode0.flt"), "mine");
+    EXPECT_EQ(TextOf(places.own / "PS/One.INI"), "one");
+    EXPECT_EQ(std::distance(fs::directory_iterator(places.own), {}), 2);
+}
+
+TEST_F(ProgramFolder, IsMadeEvenWhereNothingIsInstalled) {
+    places.installed = folder / "nowhere";
+    EXPECT_EQ(FindProgramFolder(places), places.own);
+    EXPECT_TRUE(fs::is_directory(places.own));
+}
+
+TEST_F(ProgramFolder, SaysWhyItCannotBeMade) {
+    WriteText(folder / "home", "a file");
+    EXPECT_THROW(FindProgramFolder(places), Fault);
+    places.own.clear();
+    EXPECT_THROW(FindProgramFolder(places), Fault);
+}
+
+}  // namespace
+}  // namespace quillbrand

@@ -1,0 +1,96 @@
+#include "shell/SubMain.h"
+
+#include <gtest/gtest.h>
+
+#include "base/Fault.h"
+#include "shell/vbConfig.h"
+#include "tests/support/NoiseSet.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace quillbrand {
+namespace {
+
+/// A session that started in a folder with these settings.
+struct Started {
+    TemporaryFolder folder;
+    RandomSource chance{1};
+    Session session;
+
+    explicit Started(const std::string& settings, const std::string& startFile = {}) {
+        WriteText(folder / "Quillbrand.ini", settings);
+        SubMain(session, folder.Path(), startFile, chance);
+    }
+};
+
+TEST(SubMain, StartsFlatAndEmptyWithTheWindowFromMinus10To30) {
+    Started started("");
+    clsTerrain& terrain = started.session.CurrentTerrain;
+    EXPECT_EQ(terrain.XPoints(), 257);
+    EXPECT_EQ(terrain.ScaleT(), 30.0f);
+    EXPECT_EQ(terrain.HeightScale(), 40);
+    EXPECT_EQ(terrain.BaseHeight(), 10);
+    EXPECT_EQ(terrain.MinTU(), -10);
+    EXPECT_EQ(terrain.MaxTU(), 30);
+    EXPECT_EQ(terrain.min(), 0);
+    EXPECT_EQ(terrain.max(), 0);
+    EXPECT_TRUE(started.session.TerrainEmpty);
+    EXPECT_EQ(started.session.CurrentFile, "noname");
+    EXPECT_TRUE(started.session.PerlinSets.rows.empty());
+}
+
+TEST(SubMain, TakesTheGridFromTheSettings) {
+    for (const auto& [optTer, points] : std::vector<std::pair<std::string, int>>{{"0", 129},
+                                                                                 {" 2", 513},
+                                                                                 {"3", 1025},
+                                                                                 {"4", 2049},
+                                                                                 {"5", 257},
+                                                                                 {"44", 257},
+                                                                                 {"x", 257}})
+        EXPECT_EQ(Started("[start]\nopTter=" + optTer).session.CurrentTerrain.XPoints(), points)
+            << optTer;
+}
+
+TEST(SubMain, LimitsWhatDamagedSettingsChoose) {
+    const Started good("[Start]\ncolor= 5\noptzoom= 1\n[Terrain]\ndirectory= /a b \n");
+    EXPECT_EQ(good.session.PaletteRow, 5);
+    EXPECT_EQ(good.session.ResizeMode, 1);
+    EXPECT_EQ(good.session.TerrainDirectory, "/a b");
+    const Started bad("[Start]\nCOLOR=1e99\nOptZoom=-7\n");
+    EXPECT_EQ(bad.session.PaletteRow, 7);
+    EXPECT_EQ(bad.session.ResizeMode, 0);
+}
+
+TEST(SubMain, DrawsOneNumberForTheSeed) {
+    Started started("");
+    RandomSource same(1);
+    EXPECT_EQ(started.session.RandomSeedValue, static_cast<int>(999999 * same.Uniform()));
+    EXPECT_EQ(started.chance.Uniform(), same.Uniform());
+}
+
+TEST(SubMain, KeepsOnlyAStartFileThatExists) {
+    const TemporaryFolder folder;
+    WriteText(folder / "hill.ter", "");
+    EXPECT_EQ(Started("", folder / "hill.ter").session.StartFile, folder / "hill.ter");
+    EXPECT_EQ(Started("", folder / "none.ter").session.StartFile, "");
+}
+
+TEST(SubMain, ListsThePerlinSets) {
+    const TemporaryFolder folder;
+    WriteNoiseSet(folder / "PS", "Dots", 8);
+    RandomSource chance(1);
+    Session session;
+    SubMain(session, folder.Path(), "", chance);
+    ASSERT_EQ(session.PerlinSets.ListedRows(), 1);
+    EXPECT_EQ(session.PerlinSets.rows[0].name, "Dots");
+}
+
+TEST(vbConfig, ReadsBackTrimmedWhatItWrote) {
+    const Started started("; mine\n[Start]\nOptTer=0\n");
+    EXPECT_EQ(vbConfig::WriteIni(started.session, "start", "COLOR", " 3 "), "3");
+    EXPECT_EQ(vbConfig::ReadIni(started.session, "Start", "color"), "3");
+    EXPECT_EQ(vbConfig::ReadIni(started.session, "START", "optter"), "0");
+    EXPECT_NE(TextOf(started.folder / "Quillbrand.ini").find("; mine"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace quillbrand
