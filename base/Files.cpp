@@ -157,7 +157,7 @@ void OverwriteFile(const fs::path& path, Bytes content) {
 fs::path FindInFolder(const fs::path& folder, const std::string& name) {
     std::string relative = name;
     std::replace(relative.begin(), relative.end(), '\\', '/');
-    const fs::path wanted = folder / fs::path(relative).relative_path();
+    fs::path wanted = folder / fs::path(relative).relative_path();
     std::error_code error;
     if (fs::exists(wanted, error))
         return wanted;

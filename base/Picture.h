@@ -53,6 +53,7 @@ class Picture {
     void Save(const std::filesystem::path& path) const;
 
     const QImage& Image() const { return image_; }
+    QImage& Image() { return image_; }
 
   private:
     QImage image_;

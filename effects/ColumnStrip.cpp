@@ -4,19 +4,21 @@
 #include <cstdint>
 #include <cstring>
 
+#include "base/VectorClones.h"
+
 namespace quillbrand {
 
 namespace {
 
 using Four = std::uint32_t __attribute__((vector_size(16)));
 
-Four LoadFour(const Height* cells) {
+[[gnu::always_inline]] inline Four LoadFour(const Height* cells) {
     Four four;
     std::memcpy(&four, cells, sizeof four);
     return four;
 }
 
-void StoreFour(Height* cells, Four four) {
+[[gnu::always_inline]] inline void StoreFour(Height* cells, Four four) {
     std::memcpy(cells, &four, sizeof four);
 }
 
@@ -26,8 +28,8 @@ constexpr std::ptrdiff_t ahead = 24;
 constexpr std::ptrdiff_t line = 16;
 
 /// target[x][y] = source[y][x] for 4 by 4 cells, whose rows lie a stride apart.
-inline void TurnBlock(const Height* source, std::ptrdiff_t sourceStride, Height* target,
-                      std::ptrdiff_t targetStride) {
+[[gnu::always_inline]] inline void TurnBlock(const Height* source, std::ptrdiff_t sourceStride,
+                                             Height* target, std::ptrdiff_t targetStride) {
     const Four a = LoadFour(source);
     const Four b = LoadFour(source + sourceStride);
     const Four c = LoadFour(source + 2 * sourceStride);
@@ -51,8 +53,8 @@ void TurnCells(const Height* source, std::ptrdiff_t sourceStride, std::ptrdiff_t
 }
 
 /// Turns `rowCount` rows of `count` cells into columns `length` cells apart.
-void TurnIn(const Height* rows, std::ptrdiff_t stride, std::ptrdiff_t rowCount,
-            std::ptrdiff_t count, Height* columns, std::ptrdiff_t length) {
+QB_VECTOR_CLONES void TurnIn(const Height* rows, std::ptrdiff_t stride, std::ptrdiff_t rowCount,
+                             std::ptrdiff_t count, Height* columns, std::ptrdiff_t length) {
     const std::ptrdiff_t blocks = count / 4 * 4;
     std::ptrdiff_t y = 0;
     for (; y + 4 <= rowCount; y += 4) {
@@ -69,8 +71,8 @@ void TurnIn(const Height* rows, std::ptrdiff_t stride, std::ptrdiff_t rowCount,
 }
 
 /// Turns `count` columns back into rows.
-void TurnOut(const Height* columns, std::ptrdiff_t length, std::ptrdiff_t count, Height* rows,
-             std::ptrdiff_t stride, std::ptrdiff_t rowCount) {
+QB_VECTOR_CLONES void TurnOut(const Height* columns, std::ptrdiff_t length, std::ptrdiff_t count,
+                              Height* rows, std::ptrdiff_t stride, std::ptrdiff_t rowCount) {
     const std::ptrdiff_t blocks = count / 4 * 4;
     std::ptrdiff_t y = 0;
     for (; y + 4 <= rowCount; y += 4) {

@@ -30,9 +30,10 @@ void SavePerlinSet(clsTerrain& terrain, const std::filesystem::path& path, const
     writer.Text("ARRA");
     const auto side = static_cast<std::size_t>(upper + 1);
     file.reserve(file.size() + sizeof(std::int16_t) * side * side);
+    // Only the margin can lie outside 16 bits: its cells do not count when a terrain is scaled.
     for (int y = 0; y <= upper; ++y)
         for (int x = 0; x <= upper; ++x)
-            writer.Put(NarrowTo16(heights(x, y)));
+            writer.Put(LimitTo16(heights(x, y)));
     ReplaceFile(path, file);
     host.Busy(false);
 }

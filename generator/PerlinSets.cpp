@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "base/Fault.h"
-#include "base/IniFile.h"
 #include "base/Stdio.h"
 #include "base/Text.h"
 
@@ -27,15 +26,6 @@ std::vector<fs::path> Descriptions(const fs::path& folder) {
     return found;
 }
 
-PerlinSet ReadDescription(const fs::path& path) {
-    const IniFile file = IniFile::Read(path);
-    PerlinSet set;
-    set.name = file.Get("SET", "NAME");
-    for (std::size_t k = 0; k < set.pictures.size(); ++k)
-        set.pictures[k] = file.Get("PERLIN", std::to_string(101 + k).substr(1));
-    return set;
-}
-
 }  // namespace
 
 int PerlinSetTable::ListedRows() const {
@@ -53,6 +43,14 @@ int PerlinSetTable::FindRow(const std::string& name) const {
     return found == end ? -1 : static_cast<int>(found - rows.begin());
 }
 
+PerlinSet ReadPerlinSet(const IniFile& description) {
+    PerlinSet set;
+    set.name = description.Get("SET", "NAME");
+    for (std::size_t k = 0; k < set.pictures.size(); ++k)
+        set.pictures[k] = description.Get("PERLIN", std::to_string(101 + k).substr(1));
+    return set;
+}
+
 PerlinSetTable ScanPerlinSets(const fs::path& folder) {
     PerlinSetTable table;
     table.folder = folder;
@@ -62,7 +60,7 @@ PerlinSetTable ScanPerlinSets(const fs::path& folder) {
                     std::to_string(descriptions.size()) + ", at most " +
                     std::to_string(PerlinSetTable::mostRows));
     for (const auto& path : descriptions)
-        table.rows.push_back(ReadDescription(path));
+        table.rows.push_back(ReadPerlinSet(IniFile::Read(path)));
     return table;
 }
 

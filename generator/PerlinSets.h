@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "base/IniFile.h"
+
 namespace quillbrand {
 
 /// One Perlin set: the name shown in the list and its five pictures, coarse to fine, relative to
@@ -27,6 +29,9 @@ struct PerlinSetTable {
     /// The row of that name, without regard to case and outer blanks, among the listed; or -1.
     int FindRow(const std::string& name) const;
 };
+
+/// What a set description says; a key that is missing reads as "".
+PerlinSet ReadPerlinSet(const IniFile& description);
 
 /// Reads the set descriptions (*.INI) of a folder, in the order of their file names, case apart.
 /// A folder that does not exist gives no rows. Throws Fault for more than 33 descriptions or one

@@ -1,9 +1,11 @@
 #include "shell/GeneratorCommands.h"
 
+#include <cmath>
 #include <string>
 
 #include "base/NumberText.h"
 #include "base/Numbers.h"
+#include "base/Stdio.h"
 
 namespace quillbrand {
 
@@ -16,6 +18,15 @@ GeneratorContext ContextOf(const Session& session) {
 }
 
 }  // namespace
+
+int NewSeed(RandomSource& chance) {
+    return static_cast<int>(std::floor(999999 * chance.Uniform()));
+}
+
+int SeedOf(const std::string& text) {
+    return static_cast<int>(
+        RoundHalfEven(STDIO::ClampValue(-2147483648.0, 2147483647.0, Val(text))));
+}
 
 void ProduceTerrain(Session& session, int size, const GeneratorSettings& settings, Host& host) {
     ProduceTerrain(session.CurrentTerrain, size, settings, ContextOf(session), host);
@@ -37,7 +48,7 @@ GeneratorSettings LoadGenerator(Session& session, const std::filesystem::path& p
                                 int presentRow) {
     LoadedGeneratorSettings loaded =
         LoadGeneratorSettings(path, presentRow, session.PerlinSets.ListedRows());
-    session.RandomSeedValue = RoundTo32(Val(loaded.settings.seed));
+    session.RandomSeedValue = SeedOf(loaded.settings.seed);
     session.ModifyMode = loaded.modify;
     return std::move(loaded.settings);
 }

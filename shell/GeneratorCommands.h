@@ -11,6 +11,12 @@ namespace quillbrand {
 // What the Generator tab does, over the session's Perlin sets, ResizeMode and ModifyMode. Each one
 // that throws Fault leaves session and terrain as they were.
 
+/// A seed as the start and the button "RND" draw it: the whole part of 999999 * one random number.
+int NewSeed(RandomSource& chance);
+
+/// The seed that a text stands for, limited to 32 bits.
+int SeedOf(const std::string& text);
+
 /// "Produce terrain !" with `size` intervals. A run over nothing makes "Add" the mode of the next.
 void ProduceTerrain(Session& session, int size, const GeneratorSettings& settings, Host& host);
 

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "base/IniFile.h"
 #include "base/NumberText.h"
 #include "base/Numbers.h"
 #include "base/Stdio.h"
 #include "editor/Palette.h"
+#include "shell/GeneratorCommands.h"
 
 namespace quillbrand {
 
@@ -59,7 +59,7 @@ void SubMain(Session& session, const std::filesystem::path& programFolder,
         session.StartFile = startFile;
 
     chance.ReseedFromClock();
-    session.RandomSeedValue = static_cast<int>(std::floor(999999 * chance.Uniform()));
+    session.RandomSeedValue = NewSeed(chance);
 
     session.CurrentTerrain.Fill(0);
     session.CurrentTerrain.pProgress = 100;

@@ -9,6 +9,28 @@
 
 namespace quillbrand {
 
+namespace {
+
+void Save(Session& session, const std::filesystem::path& path, bool scale, OldTail tail,
+          Host& host) {
+    if (session.TerrainEmpty)
+        throw Fault("Terrain empty !", "Save");
+    host.Busy(true);
+    host.Status("Save Terrainfile...");
+    host.Yield();
+    clsTerrain& terrain = session.CurrentTerrain;
+    TerrainGuard guard(terrain);
+    if (scale)
+        ScaleTerrainStep(terrain, host);
+    SaveT(terrain, path, host, tail);
+    guard.Commit();
+    session.CurrentFile = path.string();
+    session.TerrainSaved = true;
+    host.Busy(false);
+}
+
+}  // namespace
+
 void NewTerrain(Session& session) {
     session.CurrentTerrain.Init(session.CurrentTerrain.XPoints());
     session.TerrainEmpty = true;
@@ -49,20 +71,11 @@ bool OpenTerrain(Session& session, const std::filesystem::path& path, Host& host
 }
 
 void SaveTerrain(Session& session, const std::filesystem::path& path, bool scale, Host& host) {
-    if (session.TerrainEmpty)
-        throw Fault("Terrain empty !", "Save");
-    host.Busy(true);
-    host.Status("Save Terrainfile...");
-    host.Yield();
-    clsTerrain& terrain = session.CurrentTerrain;
-    TerrainGuard guard(terrain);
-    if (scale)
-        ScaleTerrainStep(terrain, host);
-    SaveT(terrain, path, host);
-    guard.Commit();
-    session.CurrentFile = path.string();
-    session.TerrainSaved = true;
-    host.Busy(false);
+    Save(session, path, scale, OldTail::Drop, host);
+}
+
+void SaveCurrentFile(Session& session, Host& host) {
+    Save(session, session.CurrentFile, true, OldTail::Keep, host);
 }
 
 void BackupTerrain(Session& session, const std::filesystem::path& path) {
@@ -73,6 +86,15 @@ void BackupTerrain(Session& session, const std::filesystem::path& path) {
 void RestoreTerrain(Session& session, const std::filesystem::path& path) {
     LoadBackup(session.CurrentTerrain, path);
     session.CurrentTerrain.Range();
+}
+
+std::filesystem::path BackupPath(const Session& session) {
+    return session.ProgramFolder / "Backup.qbt";
+}
+
+void RemoveBackup(const Session& session) {
+    std::error_code ignored;
+    std::filesystem::remove(BackupPath(session), ignored);
 }
 
 void SaveAsPerlinSet(Session& session, const std::filesystem::path& path, const std::string& name,

@@ -26,11 +26,19 @@ bool OpenTerrain(Session& session, const std::filesystem::path& path, Host& host
 /// terrain.
 void SaveTerrain(Session& session, const std::filesystem::path& path, bool scale, Host& host);
 
+/// "Speichern" of a document that has a file: stretched to the full range, over the old file, whose
+/// surplus stays where it is longer. Fault for an empty terrain.
+void SaveCurrentFile(Session& session, Host& host);
+
 /// "Backup" into the file `path`.
 void BackupTerrain(Session& session, const std::filesystem::path& path);
 
 /// "Restore" from the file `path`. Name, flags and objects are not part of a backup.
 void RestoreTerrain(Session& session, const std::filesystem::path& path);
+
+/// The one backup slot, in the program folder; a normal exit removes the file.
+std::filesystem::path BackupPath(const Session& session);
+void RemoveBackup(const Session& session);
 
 /// Saves the terrain as the Perlin set `name` (.QPS), stretched to the full range.
 void SaveAsPerlinSet(Session& session, const std::filesystem::path& path, const std::string& name,

@@ -51,10 +51,13 @@ void EncodeTer(clsTerrain& terrain, Bytes& file, Host& host) {
     host.Progress(100);
 }
 
-void SaveT(clsTerrain& terrain, const std::filesystem::path& path, Host& host) {
+void SaveT(clsTerrain& terrain, const std::filesystem::path& path, Host& host, OldTail tail) {
     Bytes file;
     EncodeTer(terrain, file, host);
-    ReplaceFile(path, file);
+    if (tail == OldTail::Keep)
+        OverwriteFile(path, std::move(file));
+    else
+        ReplaceFile(path, file);
 }
 
 }  // namespace quillbrand

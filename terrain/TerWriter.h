@@ -13,7 +13,12 @@ namespace quillbrand {
 /// must have run.
 void EncodeTer(clsTerrain& terrain, Bytes& file, Host& host);
 
-/// Replaces the file at `path` by the terrain as TER. Throws Fault, with the old file untouched.
-void SaveT(clsTerrain& terrain, const std::filesystem::path& path, Host& host);
+/// What becomes of the surplus of a longer old file.
+enum class OldTail { Drop, Keep };
+
+/// Writes the terrain as TER to the file at `path`, whole or not at all. Throws Fault, with the old
+/// file untouched.
+void SaveT(clsTerrain& terrain, const std::filesystem::path& path, Host& host,
+           OldTail tail = OldTail::Drop);
 
 }  // namespace quillbrand
