@@ -8,7 +8,9 @@ namespace quillbrand {
 
 /// The number as plain text, with a leading blank when it is not negative.
 std::string Str(double number);
-std::string Str(std::integral auto number) { return (number < 0 ? "" : " ") + std::to_string(number); }
+std::string Str(std::integral auto number) {
+    return (number < 0 ? "" : " ") + std::to_string(number);
+}
 
 /// The longest number that `text` begins with (blanks in front are skipped; sign, digits, a
 /// decimal point, an exponent); 0 when it begins with none. The locale plays no part.

@@ -70,10 +70,13 @@ bool IsWholeBmp(Span bytes) {
         oldHeader ? ValueAt<std::int16_t>(bytes, 20) : ValueAt<std::int32_t>(bytes, 22);
     const std::int64_t bits = ValueAt<std::uint16_t>(bytes, oldHeader ? 24 : 28);
     const std::uint32_t compression = oldHeader ? 0 : ValueAt<std::uint32_t>(bytes, 30);
-    const std::int64_t pixels = compression == 1 || compression == 2
-                                    ? std::int64_t{ValueAt<std::uint32_t>(bytes, 34)}
-                                    : (width * bits + 31) / 32 * 4 * std::abs(height);
-    return width > 0 && start + pixels <= static_cast<std::int64_t>(bytes.size());
+    const std::int64_t room = static_cast<std::int64_t>(bytes.size()) - start;
+    if (width <= 0 || room < 0)
+        return false;
+    if (compression == 1 || compression == 2)
+        return ValueAt<std::uint32_t>(bytes, 34) <= room;
+    const std::int64_t rowBytes = (width * bits + 31) / 32 * 4;
+    return rowBytes == 0 || std::abs(height) <= room / rowBytes;
 }
 
 bool IsIcon(Span bytes) {

@@ -34,13 +34,19 @@ void Double(benchmark::State& state, double target, int mode, int roughness) {
         [&] { qbGenerator::DoubleGrid(grid, n, mode, roughness, host); });
 }
 
-void DoubleGridByRepetition(benchmark::State& state) { Double(state, 2, 2, 0); }
+void DoubleGridByRepetition(benchmark::State& state) {
+    Double(state, 2, 2, 0);
+}
 QB_BENCHMARK(DoubleGridByRepetition);
 
-void DoubleGridBilinear(benchmark::State& state) { Double(state, 2, 1, 0); }
+void DoubleGridBilinear(benchmark::State& state) {
+    Double(state, 2, 1, 0);
+}
 QB_BENCHMARK(DoubleGridBilinear);
 
-void DoubleGridBilinearRough(benchmark::State& state) { Double(state, 8, 1, 5); }
+void DoubleGridBilinearRough(benchmark::State& state) {
+    Double(state, 8, 1, 5);
+}
 QB_BENCHMARK(DoubleGridBilinearRough);
 
 /// A whole run, with the pictures decoded by a first one.

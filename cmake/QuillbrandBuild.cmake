@@ -24,10 +24,18 @@ add_compile_options(-Wall -Wextra -Wshadow -Wconversion -Wno-sign-conversion -We
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   add_compile_options(-Wno-restrict)  # warns of every "a" + std::string (GCC bug 105651)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  add_compile_options(-Wno-unknown-pragmas)  # GCC ivdep
+endif()
 
 if(QB_SANITIZE)
+  set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")  # assertions stay
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(QB_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 # qb_library(NAME SOURCES ... LINKS ...): the static library of the folder NAME.

@@ -93,7 +93,6 @@ QB_VECTOR_CLONES void TurnOut(const Height* columns, std::ptrdiff_t length, std:
 ColumnStrip::ColumnStrip(int last, int y0, int y1)
     : last_(last), y0_(y0), y1_(y1), length_(std::max(y1 - y0, 0) + 3) {
     // An odd number of cache lines keeps the columns from falling into the same places of a cache.
-    constexpr std::ptrdiff_t line = 16;
     length_ = ((length_ + line - 1) / line | 1) * line;
     columns_.resize(static_cast<std::size_t>(length_ * (width + 2)));
 }

@@ -70,7 +70,7 @@ NoisePicture MakeNoisePicture(const PerlinSet& set, int number, int side) {
     picture.levels.reserve(heights.size());
     for (const double height : heights) {
         picture.levels.push_back(
-            static_cast<std::uint16_t>(lowest + scale * (height - *low) + 0.5));
+            static_cast<std::uint16_t>(std::lround(lowest + scale * (height - *low))));
     }
     return picture;
 }

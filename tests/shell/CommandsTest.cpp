@@ -55,7 +55,6 @@ class Commands : public testing::Test {
 TEST_F(Commands, ThatFailChangeNothing) {
     const auto nowhere = folder / "nowhere/a.ter";
     WriteText(folder / "short.ter", "TERRAGENTERRAIN SIZE" + std::string(90, '\1'));
-    WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\nmodify=4\n");
     GeneratorSettings broken;
     broken.set = 5;
     broken.clearTerrain = true;
@@ -65,10 +64,16 @@ TEST_F(Commands, ThatFailChangeNothing) {
     ExpectFaultChangesNothing([&] { OpenTerrain(session, folder / "short.ter", host); });
     ExpectFaultChangesNothing([&] { RestoreTerrain(session, nowhere); });
     ExpectFaultChangesNothing([&] { ProduceTerrain(session, 256, broken, host); });
-    ExpectFaultChangesNothing([&] { LoadGenerator(session, folder / "far.par", 0); });
     session.CurrentTerrain.HeightScale(32767);
     session.CurrentTerrain.BaseHeight(32767);
     ExpectFaultChangesNothing([&] { ClearTerrain(session, 257); });
+}
+
+TEST_F(Commands, LimitASeedTo32Bits) {
+    WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\nmodify=4\n");
+    EXPECT_EQ(LoadGenerator(session, folder / "far.par", 0).seed, "1e10");
+    EXPECT_EQ(session.RandomSeedValue, 2147483647);
+    EXPECT_EQ(session.ModifyMode, Division);
 }
 
 TEST_F(Commands, RefuseAnEmptyTerrain) {

@@ -37,7 +37,7 @@ std::int64_t ScaleTerrain(clsTerrain& t) {
         t.SetPoint(1, 1, 32767);
         t.SetPoint(1, 2, -32767);
     }
-    const double r = static_cast<double>(t.Range());
+    const auto r = static_cast<double>(t.Range());
     const double f = 65535 / (r + 1);
     const double c = t.max() - r / 2;
     if (f != 1 && f != 65535) {
@@ -67,7 +67,7 @@ void DoubleGrid(SquareArray& grid, int& n, int mode, int roughness, RandomSource
             const double b = grid(i + 1, j);
             const double c = grid(i + 1, j + 1);
             const double e = grid(i, j + 1);
-            const float d = static_cast<float>(1 + r * chance.Uniform());
+            const auto d = static_cast<float>(1 + r * chance.Uniform());
             if (mode == 1) {
                 out(2 * i, 2 * j) = Round(d * a);
                 out(2 * i + 1, 2 * j) = Round(d * ((b + a) / 2));

@@ -1,0 +1,290 @@
+#include <QAction>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QProgressBar>
+#include <QSlider>
+#include <QToolBar>
+
+#include "base/Fault.h"
+#include "editor/Palette.h"
+#include "terrain/TerReader.h"
+#include "tests/support/Grids.h"
+#include "tests/ui/WindowFixture.h"
+#include "ui/PictureBox.h"
+
+namespace quillbrand {
+namespace {
+
+class MainWindow : public WindowFixture {
+  protected:
+    bool ToolIsEnabled(const char* key) {
+        return Find<QToolBar>("Toolbar1")->findChild<QAction*>(QString::fromUtf8(key))->isEnabled();
+    }
+};
+
+TEST_F(MainWindow, StartsEmptyWithItsTitleAndTheListOfSets) {
+    ASSERT_TRUE(StartWindow());
+    EXPECT_EQ(window_->windowTitle(), "Quillbrand  [noname]");
+    EXPECT_TRUE(session_.TerrainEmpty);
+    for (const char* key : {"Speichern", "SpeichernAls", "Print", "Restore", "Backup"})
+        EXPECT_FALSE(ToolIsEnabled(key)) << key;
+    for (const char* key : {"Neu", "Öffnen", "Löschen", "Hilfe", "Zoom in", "Zoom out", "Zoom100"})
+        EXPECT_TRUE(ToolIsEnabled(key)) << key;
+    EXPECT_EQ(Find<QLineEdit>("txtRandom")->text(), QString::number(session_.RandomSeedValue));
+}
+
+TEST_F(MainWindow, EndsWithAMessageWhenThereAreNoSets) {
+    std::filesystem::remove_all(folder_ / "PS");
+    ModalUser user({Press("OK")});
+    EXPECT_FALSE(StartWindow());
+    EXPECT_EQ(user.seen, QStringList("ERROR: Perlinsets not found !! Please install Perlinsets in "
+                                     "Quillbrandsubfolder \\PS !"));
+}
+
+TEST_F(MainWindow, ProducesWhatTheBatchProgramProduces) {
+    ASSERT_TRUE(StartWindow());
+    Find<QSlider>("sldIteration")->setValue(4);
+    Find<QSlider>("sldStructure")->setValue(1);
+    Produce("654321");
+    EXPECT_FALSE(session_.TerrainEmpty);
+
+    QProcess batch;
+    batch.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
+    batch.start(QB_BATCH_PROGRAM,
+                {"--home", ".", "generate size=128 iterations=4 structure=1 seed=654321 resize=0",
+                 "save file=batch.ter"});
+    ASSERT_TRUE(batch.waitForFinished());
+    ASSERT_EQ(batch.exitCode(), 0) << batch.readAllStandardError().toStdString();
+    clsTerrain expected;
+    StoreTer(ParseTer(Contents(folder_ / "batch.ter"), "batch.ter"), expected);
+    // The batch terrain had 257 points; the window's has too: only the first 129 are produced.
+    EXPECT_EQ(TextOf(session_.CurrentTerrain), TextOf(expected));
+
+    const Picture& shown = Find<PictureBox>("Picture1")->Raster();
+    EXPECT_EQ(shown.Point(40, 60),
+              PaletteTable(HeightToPaletteIndex(session_.CurrentTerrain.GetPoint(40, 60)), 0));
+}
+
+TEST_F(MainWindow, LeavesTheTerrainAloneInAPreview) {
+    ASSERT_TRUE(StartWindow());
+    Produce("111");
+    const auto before = Heights();
+    ModalUser user({[](QWidget* modal) {
+        EXPECT_EQ(modal->windowTitle(), "Preview");
+        const auto* picture = modal->findChild<PictureBox*>();
+        ASSERT_NE(picture, nullptr);
+        EXPECT_EQ(picture->Raster().Width(), 129);
+        QTest::keyClick(modal, Qt::Key_Escape);
+    }});
+    Click("cmdPreview");
+    EXPECT_TRUE(user.IsDone());
+    EXPECT_EQ(Heights(), before);
+    EXPECT_FALSE(session_.TerrainBusy);
+}
+
+TEST_F(MainWindow, AsksAtTheExitAndFollowsEachAnswer) {
+    ASSERT_TRUE(StartWindow());
+    Produce("222");
+    const QString question = "EXIT: The terrain is not saved!  Do you want to save?";
+    {
+        ModalUser user({Press("Cancel")});
+        EXPECT_FALSE(window_->close());
+        EXPECT_EQ(user.seen, QStringList(question));
+    }
+    {
+        ModalUser user({Press("Yes"), Press("Cancel")});
+        EXPECT_FALSE(window_->close());
+    }
+    {
+        ModalUser user(
+            {Press("Yes"), Press("TerraGen-File [.TER]"), ChoosePath(folder_ / "x.ter")});
+        EXPECT_TRUE(window_->close());
+        EXPECT_TRUE(std::filesystem::exists(folder_ / "x.ter"));
+    }
+    session_.TerrainSaved = false;
+    window_->show();
+    ModalUser user({Press("No")});
+    EXPECT_TRUE(window_->close());
+}
+
+TEST_F(MainWindow, ExitsWithoutAQuestionAfterASaveAndRemovesTheBackup) {
+    ASSERT_TRUE(StartWindow());
+    Produce("333");
+    ClickTool("Backup");
+    EXPECT_TRUE(std::filesystem::exists(folder_ / "Backup.qbt"));
+    {
+        ModalUser user({Press("TerraGen-File [.TER]"), ChoosePath(folder_ / "x.ter")});
+        ClickTool("Speichern");
+    }
+    EXPECT_EQ(session_.CurrentFile, (folder_ / "x.ter").string());
+    EXPECT_EQ(window_->windowTitle(),
+              QString::fromStdString("Quillbrand  [" + (folder_ / "x.ter").string() + "]"));
+    EXPECT_TRUE(window_->close());
+    EXPECT_FALSE(std::filesystem::exists(folder_ / "Backup.qbt"));
+}
+
+TEST_F(MainWindow, StaysAsItWasWhenAFileCannotBeReadOrWritten) {
+    ASSERT_TRUE(StartWindow());
+    Produce("444");
+    const auto before = Heights();
+    WriteText(folder_ / "short.ter", "TERRAGENTERRAIN SIZE");
+    {
+        ModalUser user({ChoosePath(folder_ / "short.ter"), Press("OK")});
+        ClickTool("Öffnen");
+        ASSERT_EQ(user.seen.size(), 1);
+        EXPECT_TRUE(user.seen[0].contains("short.ter is cut short")) << user.seen[0].toStdString();
+    }
+    EXPECT_EQ(Heights(), before);
+    EXPECT_EQ(session_.CurrentFile, "noname");
+    std::filesystem::create_directory(folder_ / "folder.ter");
+    session_.CurrentFile = (folder_ / "folder.ter").string();
+    {
+        ModalUser user({Press("OK")});
+        ClickTool("Speichern");
+        ASSERT_EQ(user.seen.size(), 1);
+        EXPECT_TRUE(user.seen[0].contains("Is a directory")) << user.seen[0].toStdString();
+    }
+    EXPECT_EQ(Heights(), before);
+    EXPECT_FALSE(session_.TerrainSaved);
+    EXPECT_FALSE(session_.TerrainBusy);
+    EXPECT_TRUE(Find<QToolBar>("Toolbar1")->isEnabled());
+}
+
+TEST_F(MainWindow, OpensAFileNamedAtTheStartAndOneThatIsDropped) {
+    clsTerrain terrain = GridFrom("-30000 2 3 4 / 5 6 7 8 / 9 1 1 1 / 1 1 1 30000");
+    RandomSource chance(1);
+    ASSERT_TRUE(StartWindow());
+    Produce("555");
+    {
+        ModalUser user({Press("TerraGen-File [.TER]"), ChoosePath(folder_ / "x.ter")});
+        ClickTool("SpeichernAls");
+    }
+    const auto saved = TextOf(session_.CurrentTerrain);
+    window_.reset();
+    session_ = Session();
+    ASSERT_TRUE(StartWindow((folder_ / "x.ter").string()));
+    EXPECT_EQ(TextOf(session_.CurrentTerrain), saved);
+    EXPECT_FALSE(session_.TerrainEmpty);
+    EXPECT_EQ(session_.CurrentFile, (folder_ / "x.ter").string());
+}
+
+TEST_F(MainWindow, TakesABackupAndComesBackToIt) {
+    ASSERT_TRUE(StartWindow());
+    Produce("666");
+    const auto before = Heights();
+    EXPECT_FALSE(ToolIsEnabled("Restore"));
+    ClickTool("Backup");
+    EXPECT_TRUE(ToolIsEnabled("Restore"));
+    {
+        ModalUser user({Press("Yes")});
+        ClickTool("Löschen");
+        EXPECT_EQ(user.seen, QStringList("Terrain clear: Terrain clear ?  Are you sure ?"));
+    }
+    EXPECT_TRUE(session_.TerrainEmpty);
+    EXPECT_NE(Heights(), before);
+    ClickTool("Restore");
+    EXPECT_EQ(Heights(), before);
+}
+
+TEST_F(MainWindow, BeatsItsHeartByTheBusyFlag) {
+    ASSERT_TRUE(StartWindow());
+    session_.TerrainBusy = true;
+    session_.CurrentTerrain.pProgress = 137;
+    Find<QLabel>("InfoText")->setText("work");
+    auto* tools = Find<QToolBar>("Toolbar1");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !tools->isEnabled(); }));
+    for (const char* name : {"SSTab1", "Picture1", "PicZ"})
+        EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
+    EXPECT_EQ(Find<QProgressBar>("PB")->value(), 100);
+    EXPECT_EQ(Find<QLabel>("InfoText")->text(), "work");
+    session_.TerrainBusy = false;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return tools->isEnabled(); }));
+    EXPECT_TRUE(Find<QWidget>("SSTab1")->isEnabled());
+    EXPECT_EQ(Find<QLabel>("InfoText")->text(), "Ready");
+    EXPECT_EQ(Find<QProgressBar>("PB")->value(), 0);
+}
+
+TEST_F(MainWindow, ZoomsWithinItsLimits) {
+    ASSERT_TRUE(StartWindow());
+    Produce("777");
+    ClickTool("Zoom100");
+    EXPECT_EQ(session_.ViewZoom, 1.0);
+    EXPECT_EQ(Find<QLabel>("sBarPanel1")->text(), "256 x 256   Zoom =100.%");
+    EXPECT_EQ(Find<PictureBox>("Picture1")->width(), 259);
+    for (int i = 0; i < 4; ++i)
+        ClickTool("Zoom out");
+    EXPECT_EQ(session_.ViewZoom, 0.25);
+    for (int i = 0; i < 6; ++i)
+        ClickTool("Zoom in");
+    const auto* area = Find<QWidget>("PictureArea");
+    EXPECT_GT(session_.ViewZoom, 2.0);
+    EXPECT_LE(Find<PictureBox>("Picture1")->width(), std::min(area->width(), area->height()));
+}
+
+TEST_F(MainWindow, ShowsSectionsAndSaysWhyNot) {
+    ASSERT_TRUE(StartWindow());
+    {
+        ModalUser user({Press("OK")});
+        Click("optZView");
+        EXPECT_EQ(user.seen, QStringList("Z-View: Terrain empty !"));
+    }
+    Produce("888");
+    Click("optZView");
+    EXPECT_TRUE(Find<QWidget>("PicZ")->isVisible());
+    const QImage first = Find<PictureBox>("frmZView")->Raster().Image();
+    EXPECT_EQ(Find<QLabel>("lblViewFrom")->text(), "Y");
+    Find<QSlider>("SldYView")->setValue(100);
+    EXPECT_EQ(Find<QLabel>("lblViewFrom")->text(), "X");
+    EXPECT_NE(Find<PictureBox>("frmZView")->Raster().Image(), first);
+    Click("OptXYView");
+    EXPECT_FALSE(Find<QWidget>("PicZ")->isVisible());
+
+    session_.CurrentTerrain.Fill(5);
+    ModalUser user({Press("OK")});
+    Click("optZView");
+    EXPECT_EQ(user.seen, QStringList("Z-view: Terrain flat"));
+    EXPECT_TRUE(Find<QWidget>("Picture1")->isVisible());
+}
+
+TEST_F(MainWindow, StoresAndLoadsTheGeneratorsSettings) {
+    ASSERT_TRUE(StartWindow());
+    ShowTab("Generator");
+    Find<QSlider>("sldIteration")->setValue(9);
+    Find<QSlider>("Slider3")->setValue(6);
+    Find<QCheckBox>("chkHighResolution")->setChecked(true);
+    auto* seed = Find<QLineEdit>("txtRandom");
+    seed->clear();
+    QTest::keyClicks(seed, "98765");
+    {
+        ModalUser user({ChoosePath(folder_ / "a.par")});
+        Click("cmdGeneratorSaveSetting");
+    }
+    Find<QSlider>("sldIteration")->setValue(1);
+    Find<QSlider>("Slider3")->setValue(0);
+    Find<QCheckBox>("chkHighResolution")->setChecked(false);
+    seed->clear();
+    QTest::keyClicks(seed, "1");
+    ModalUser user({ChoosePath(folder_ / "a.par")});
+    Click("cmdGenLoadSetting");
+    EXPECT_EQ(Find<QSlider>("sldIteration")->value(), 9);
+    EXPECT_EQ(Find<QSlider>("Slider3")->value(), 6);
+    EXPECT_TRUE(Find<QCheckBox>("chkHighResolution")->isChecked());
+    EXPECT_EQ(seed->text(), "98765");
+    EXPECT_EQ(session_.RandomSeedValue, 98765);
+}
+
+TEST_F(MainWindow, FollowsTheMouseInTheStatusBar) {
+    ASSERT_TRUE(StartWindow());
+    Produce("999");
+    ClickTool("Zoom100");
+    auto* picture = Find<PictureBox>("Picture1");
+    QTest::mouseMove(picture, QPoint(100, 50));
+    const double x = 100 * 256.0 / picture->width();
+    EXPECT_EQ(Find<QLabel>("sBarPanel4")->text(), QString("X=%1").arg(qRound(x)));
+    EXPECT_TRUE(Find<QLabel>("sBarPanel6")->text().endsWith(" m"));
+}
+
+}  // namespace
+}  // namespace quillbrand

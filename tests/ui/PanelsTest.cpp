@@ -1,0 +1,258 @@
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QSlider>
+#include <algorithm>
+#include <limits>
+
+#include "effects/QBFilter.h"
+#include "tests/support/Grids.h"
+#include "tests/support/RecordingHost.h"
+#include "tests/ui/WindowFixture.h"
+#include "ui/EditPanel.h"
+#include "ui/EffectsPanel.h"
+#include "ui/GlobalPanel.h"
+#include "ui/ObjectsPanel.h"
+
+namespace quillbrand {
+namespace {
+
+class Panels : public WindowFixture {
+  protected:
+    void SetUp() override {
+        WindowFixture::SetUp();
+        ASSERT_TRUE(StartWindow());
+    }
+
+    QString Text(const char* name) { return Find<QLineEdit>(name)->text(); }
+    int Value(const char* name) { return Find<QSlider>(name)->value(); }
+    bool IsTicked(const char* name) { return Find<QAbstractButton>(name)->isChecked(); }
+
+    void Keys(const char* name, std::initializer_list<Qt::Key> keys) {
+        for (const Qt::Key key : keys)
+            QTest::keyClick(Find<QWidget>(name), key);
+    }
+};
+
+class Effects : public Panels {
+  protected:
+    void SetUp() override {
+        Panels::SetUp();
+        ShowTab("Effects");
+    }
+};
+
+constexpr auto smooth = "optFilter0";
+constexpr auto optimized = "optFilter10";
+
+TEST_F(Effects, ListsAllTwelveAndOffersWhatThereIs) {
+    for (const QBFilter::Effect& effect : QBFilter::Effects()) {
+        const std::string name = "optFilter" + std::to_string(effect.code - 1);
+        auto* option = Find<QRadioButton>(name.c_str());
+        EXPECT_EQ(option->text().toStdString(), effect.caption);
+        EXPECT_EQ(option->property("Index").toInt(), effect.code - 1);
+        const bool isRain = effect.code == 9;
+        EXPECT_EQ(option->isEnabled(), effect.available && !isRain) << effect.caption;
+        EXPECT_EQ(option->toolTip().contains("not available in this version"), !effect.available);
+        EXPECT_EQ(option->toolTip().contains("experimental (BETA)"), effect.code == 12);
+    }
+    EXPECT_TRUE(IsTicked(smooth));
+    EXPECT_FALSE(Find<QWidget>("cmdElevatorPar")->isEnabled());
+}
+
+TEST_F(Effects, KeepsStrengthsOneOff) {
+    Keys("sldEffectFactor", {Qt::Key_Right, Qt::Key_Right});
+    EXPECT_EQ(session_.EffectStrength[0], 1);
+    EXPECT_EQ(session_.EffectStrength[1], 3);
+
+    session_.EffectStrength[10] = 7;
+    Click(optimized);
+    EXPECT_EQ(Value("sldEffectFactor"), 7);
+    EXPECT_EQ(session_.EffectStrength[11], 7) << "the slider moved, so it wrote one above";
+    Keys("sldEffectFactor", {Qt::Key_End});
+    EXPECT_EQ(session_.EffectStrength[10], 7);
+    EXPECT_EQ(session_.EffectStrength[11], 10);
+
+    Click(smooth);
+    EXPECT_EQ(Value("sldEffectFactor"), 1);
+    EXPECT_EQ(session_.EffectStrength[1], 1);
+    session_.EffectStrength[1] = 9;
+    Click(smooth);
+    EXPECT_EQ(session_.EffectStrength[1], 9) << "the slider stayed, so it wrote nothing";
+}
+
+TEST_F(Effects, AreChosenByArrowKeysAsByClicks) {
+    session_.EffectStrength.fill(4);
+    Find<QWidget>(smooth)->setFocus();
+    Keys(smooth, {Qt::Key_Down});
+    EXPECT_FALSE(IsTicked(smooth));
+    EXPECT_EQ(Value("sldEffectFactor"), 4);
+}
+
+TEST_F(Effects, PushOneLimitByTheOther) {
+    EXPECT_EQ(Value("sldZMin"), 0);
+    EXPECT_EQ(Value("sldZMax"), 65536);
+    Keys("sldZMax", {Qt::Key_Home, Qt::Key_PageUp});
+    Keys("sldZMin", {Qt::Key_PageUp, Qt::Key_PageUp});
+    EXPECT_EQ(Value("sldZMin"), 8192);
+    EXPECT_EQ(Value("sldZMax"), 8193);
+    Keys("sldZMax", {Qt::Key_PageDown});
+    EXPECT_EQ(Value("sldZMax"), 4097);
+    EXPECT_EQ(Value("sldZMin"), 4096);
+    Keys("sldZMin", {Qt::Key_End});
+    EXPECT_EQ(Value("sldZMax"), 65536) << "no further than the end";
+    Keys("sldZMax", {Qt::Key_Home});
+    EXPECT_EQ(Value("sldZMin"), 0);
+}
+
+TEST_F(Effects, ShowTheLimitsInMetresAndResetThem) {
+    EXPECT_EQ(Text("txtZMin"), "-300");
+    EXPECT_EQ(Text("txtZmax"), "900");
+    Find<QSlider>("sldZMin")->setValue(32768);
+    EXPECT_EQ(Text("txtZMin"), "300");
+    Keys("sldZMax", {Qt::Key_Left});
+    EXPECT_EQ(Text("txtZmax"), "899.9817");
+    session_.CurrentTerrain.ScaleT(10);
+    host_->ActualScreen();
+    EXPECT_EQ(Text("txtZMin"), "100");
+    Click("cmdZrangeReset");
+    EXPECT_EQ(Value("sldZMin"), 0);
+    EXPECT_EQ(Value("sldZMax"), 65536);
+    EXPECT_EQ(Text("txtZMin"), "-100");
+    EXPECT_EQ(Text("txtZmax"), "300");
+}
+
+TEST_F(Effects, RefuseAnEmptyTerrainAndDoNothingElse) {
+    const auto before = Heights();
+    ModalUser user({Press("OK")});
+    Click("cmdStartEffects");
+    EXPECT_EQ(user.seen, QStringList("Effects: Terrain empty"));
+    EXPECT_EQ(Heights(), before);
+    EXPECT_TRUE(session_.TerrainEmpty);
+    EXPECT_FALSE(session_.TerrainBusy);
+}
+
+TEST_F(Effects, RunWithTheStrengthAndTheLimitsOfThePanel) {
+    Produce("135");
+    session_.EffectStrength[0] = 0;
+    session_.EffectStrength[1] = 6;
+    Click("optZView");
+    ShowTab("Effects");
+    Keys("sldZMin", {Qt::Key_PageUp, Qt::Key_PageUp});
+    clsTerrain expected = session_.CurrentTerrain;
+    RecordingHost host;
+    QBFilter::ApplyEffect(1, expected, 6, {.extent = expected.XPoints(), .zMin = 8192 - 32768},
+                          host);
+    const auto before = Heights();
+    Click("cmdStartEffects");
+    EXPECT_EQ(Heights(), AllCells(expected));
+    EXPECT_NE(Heights(), before);
+    EXPECT_TRUE(Find<QWidget>("Picture1")->isVisible());
+    EXPECT_FALSE(session_.TerrainBusy);
+
+    session_.EffectStrength[1] = 0;
+    Click("cmdStartEffects");
+    EXPECT_EQ(Heights(), AllCells(expected)) << "too weak to smooth";
+}
+
+TEST_F(Effects, ClearTheBusyFlagAfterAFault) {
+    Produce("246");
+    ShowTab("Effects");
+    const auto effects = QBFilter::Effects();
+    const auto missing = std::ranges::find(effects, false, &QBFilter::Effect::available);
+    if (missing == effects.end())
+        GTEST_SKIP() << "every effect is there";
+    const std::string name = "optFilter" + std::to_string(missing->code - 1);
+    Find<QWidget>(name.c_str())->setEnabled(true);
+    Click(name.c_str());
+    const auto before = Heights();
+    ModalUser user({Press("OK")});
+    Click("cmdStartEffects");
+    ASSERT_EQ(user.seen.size(), 1);
+    EXPECT_TRUE(user.seen[0].startsWith("Effects: ")) << user.seen[0].toStdString();
+    EXPECT_FALSE(session_.TerrainBusy);
+    EXPECT_EQ(Heights(), before);
+}
+
+TEST_F(Panels, TickTheSizeThatFitsAndNoOther) {
+    GlobalPanel panel(*window_);
+    const auto ticked = [&] {
+        QStringList names;
+        for (const auto* option : panel.findChildren<QRadioButton*>())
+            if (option->isChecked())
+                names += option->objectName();
+        return names;
+    };
+    EXPECT_EQ(panel.ChosenSize(), std::nullopt);
+    panel.TickSize(512);
+    EXPECT_EQ(ticked(), QStringList("optTerSize2"));
+    EXPECT_EQ(panel.ChosenSize(), 512);
+    panel.TickSize(300);
+    EXPECT_EQ(ticked(), QStringList());
+    EXPECT_EQ(panel.ChosenSize(), std::nullopt);
+    panel.show();
+    for (const char* name : {"optTerSize4", "optTerSize0"})
+        QTest::mouseClick(panel.findChild<QRadioButton*>(name), Qt::LeftButton);
+    EXPECT_EQ(ticked(), QStringList("optTerSize0"));
+    EXPECT_EQ(panel.ChosenSize(), 128);
+}
+
+TEST_F(Panels, ShowTheHeaderOfTheTerrain) {
+    ShowTab("Global");
+    EXPECT_EQ(Text("txtMetersPoint"), "30.");
+    EXPECT_EQ(Text("txtTerSizeMeters"), "7680");
+    EXPECT_EQ(Text("txtMinTerrain"), "-300");
+    EXPECT_EQ(Text("txtMaxTerrain"), "900");
+    EXPECT_EQ(Text("txtPlanetRadius"), "6370");
+    clsTerrain& terrain = session_.CurrentTerrain;
+    terrain.ScaleT(250.5F);
+    terrain.CRAD(1737.6F);
+    terrain.CRVM(1);
+    host_->ActualScreen();
+    EXPECT_EQ(Text("txtMetersPoint"), "100.");
+    EXPECT_EQ(Text("txtTerSizeMeters"), "64128");
+    EXPECT_EQ(Text("txtPlanetRadius"), "1738");
+    EXPECT_TRUE(IsTicked("chkCurved"));
+    // A file can hold a scale that is no number; the window must live on.
+    terrain.ScaleT(std::numeric_limits<float>::quiet_NaN());
+    host_->ActualScreen();
+    EXPECT_EQ(Text("txtMinTerrain"), "?");
+    EXPECT_EQ(Text("txtZMin"), "?");
+}
+
+TEST_F(Panels, HandTheUsersChoicesToTheTerrain) {
+    ShowTab("Global");
+    Click("chkCurved");
+    Click("chkFixHeight");
+    host_->ActualScreen();
+    EXPECT_EQ(session_.CurrentTerrain.CRVM(), 1);
+    EXPECT_TRUE(IsTicked("chkCurved"));
+    EXPECT_TRUE(session_.CurrentTerrain.FixHeight());
+    auto* radius = Find<QLineEdit>("txtPlanetRadius");
+    radius->selectAll();
+    QTest::keyClicks(radius, "42");
+    ClickTool("Zoom100");
+    EXPECT_EQ(session_.CurrentTerrain.CRAD(), 42.0F);
+    for (const char* name : {"txtTerSizeMeters", "txtMinTerrain", "txtMaxTerrain"})
+        EXPECT_TRUE(Find<QLineEdit>(name)->isReadOnly()) << name;
+}
+
+TEST_F(Panels, DisableWhatHasNoFunctionYet) {
+    for (const char* name :
+         {"CmdResize", "cmdEarth", "cmdMoon", "cmdMars", "cmdPlanetRender", "cmdMask", "Command1",
+          "chkPick", "chkEditSnap", "Slider1", "Slider2", "sliderFineHeight", "cmdResetFineHeight",
+          "sldDepthEffects", "cmdObjLoad", "cmdObjMergeAll", "cmdObjDeleteAll", "cmdObjektmaker"})
+        EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
+}
+
+TEST_F(Panels, FitTheTabs) {
+    for (QWidget* panel :
+         std::initializer_list<QWidget*>{Find<GlobalPanel>(""), Find<EditPanel>(""),
+                                         Find<EffectsPanel>(""), Find<ObjectsPanel>("")}) {
+        const QSize least = panel->minimumSizeHint();
+        EXPECT_LE(least.width(), 360) << panel->metaObject()->className();
+        EXPECT_LE(least.height(), 560) << panel->metaObject()->className();
+    }
+}
+
+}  // namespace
+}  // namespace quillbrand

@@ -1,0 +1,128 @@
+// Writes a picture of every tab, view and dialog of the editor, for people to look at.
+// Usage: qb_screenshots FOLDER PROGRAM_FOLDER [dark]; QT_SCALE_FACTOR gives other scales.
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSlider>
+#include <QStyleFactory>
+#include <QTabWidget>
+#include <QTest>
+#include <cstdio>
+
+#include "base/Fault.h"
+#include "shell/GeneratorCommands.h"
+#include "shell/SubMain.h"
+#include "ui/Theme.h"
+#include "ui/WindowHost.h"
+#include "ui/dlgGenModify.h"
+#include "ui/dlgPreview.h"
+#include "ui/dlgSaveAs.h"
+#include "ui/dlgSavePerlinsetNew.h"
+#include "ui/frmAbout.h"
+#include "ui/frmTer.h"
+
+namespace quillbrand {
+namespace {
+
+/// Shows windows one after the other and stores what they look like.
+class Photographer {
+  public:
+    Photographer(QString folder, QString suffix)
+        : folder_(std::move(folder)), suffix_(std::move(suffix)) {}
+
+    void Take(QWidget& widget, const QString& name) const {
+        widget.show();
+        // The heartbeat gives the controls back after a command.
+        QTest::qWait(250);
+        const QString path = folder_ + '/' + name + suffix_ + ".png";
+        if (!widget.grab().save(path))
+            throw Fault("cannot write " + path.toStdString());
+        std::printf("%s\n", path.toUtf8().constData());
+    }
+
+  private:
+    QString folder_;
+    QString suffix_;
+};
+
+void TakeWindow(frmTer& window, const Photographer& photographer) {
+    auto* tabs = window.findChild<QTabWidget*>("SSTab1");
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        photographer.Take(window, "tab-" + tabs->tabText(i).toLower());
+    }
+    tabs->setCurrentIndex(1);
+    window.findChild<QAbstractButton*>("optZView")->click();
+    window.findChild<QSlider*>("sldXView")->setValue(300);
+    photographer.Take(window, "z-view");
+    window.findChild<QAbstractButton*>("chkRealViewZ")->click();
+    photographer.Take(window, "z-view-real");
+    window.findChild<QAbstractButton*>("OptXYView")->click();
+}
+
+void TakeDialogs(frmTer& window, Session& session, WindowHost& host,
+                 const Photographer& photographer) {
+    dlgSaveAs saveAs(&window);
+    photographer.Take(saveAs, "save-as");
+    dlgGenModify modify(session.ModifyMode, &window);
+    photographer.Take(modify, "modify");
+    dlgSavePerlinsetNew perlinSet(window);
+    photographer.Take(perlinSet, "save-perlin-set");
+    frmAbout about(&window);
+    photographer.Take(about, "about");
+    GeneratorSettings settings;
+    settings.seed = "500500";
+    clsTerrain terrain = PreviewTerrain(session, settings, host);
+    dlgPreview preview(&window);
+    preview.ShowHeights(terrain, 5, host);
+    photographer.Take(preview, "preview");
+}
+
+void TakeAll(const QString& folder, const std::string& programFolder, bool dark) {
+    ApplyTheme(dark);
+    Session session;
+    RandomSource chance(1);
+    SubMain(session, programFolder, "", chance);
+    session.PaletteRow = 5;
+    WindowHost host(session, chance);
+    frmTer window(session, host);
+    window.resize(1280, 800);
+    window.show();
+    const Photographer photographer(folder, dark ? "-dark" : "");
+    if (!window.Form_Load())
+        throw Fault("no Perlin sets in " + programFolder);
+    photographer.Take(window, "start");
+    session.ResizeMode = 1;
+    GeneratorSettings settings;
+    settings.iterations = 3;
+    settings.seed = "314159";
+    settings.finerStructures = true;
+    settings.clearTerrain = true;
+    ProduceTerrain(session, 1024, settings, host);
+    window.ResizePicture();
+    window.RebuildPicture();
+    host.Busy(false);
+    host.ActualScreen();
+    TakeWindow(window, photographer);
+    TakeDialogs(window, session, host, photographer);
+}
+
+}  // namespace
+}  // namespace quillbrand
+
+int main(int argc, char** argv) {
+    if (argc < 3) {
+        std::fprintf(stderr, "usage: qb_screenshots FOLDER PROGRAM_FOLDER [dark]\n");
+        return 2;
+    }
+    QApplication application(argc, argv);
+    try {
+        quillbrand::TakeAll(argv[1], argv[2], argc > 3 && std::string(argv[3]) == "dark");
+    } catch (const quillbrand::Fault& fault) {
+        std::fprintf(stderr, "qb_screenshots: %s\n", fault.what());
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QTest>
+#include <functional>
+#include <memory>
+
+#include "tests/support/TemporaryFolder.h"
+#include "ui/frmTer.h"
+
+namespace quillbrand {
+
+/// Acts on the modal windows that a command opens, as a user would: each of the given actions runs
+/// once, on the next modal window that is up. Everything goes through the event loop; nothing
+/// waits for a time to pass.
+class ModalUser : public QObject {
+  public:
+    using Action = std::function<void(QWidget*)>;
+
+    explicit ModalUser(QList<Action> actions);
+
+    /// The texts of the message boxes that came, "title: text".
+    QStringList seen;
+
+    bool IsDone() const { return actions_.isEmpty(); }
+
+  protected:
+    void timerEvent(QTimerEvent* event) override;
+
+  private:
+    QList<Action> actions_;
+};
+
+/// Presses the button of a message box or dialog that has this caption, "&" apart.
+ModalUser::Action Press(const QString& caption);
+
+/// Accepts a file dialog with this path.
+ModalUser::Action ChoosePath(const std::filesystem::path& path);
+
+/// Closes by the Escape key.
+ModalUser::Action PressEscape();
+
+/// The main window over a small program folder with one Perlin set, and a fixed source of chance.
+class WindowFixture : public ::testing::Test {
+  protected:
+    void SetUp() override;
+
+    /// Opens the window; it has no Perlin sets when the folder was taken away.
+    bool StartWindow(const std::string& startFile = "");
+
+    template <typename Control = QWidget>
+    Control* Find(const char* name) {
+        auto* control = window_->findChild<Control*>(QString::fromUtf8(name));
+        EXPECT_NE(control, nullptr) << name;
+        return control;
+    }
+
+    /// A real click in the middle of a control.
+    void Click(const char* name);
+
+    /// Presses a button of the tool bar by its key.
+    void ClickTool(const char* key);
+
+    /// Shows the tab with that caption.
+    void ShowTab(const char* caption);
+
+    /// Produces a 129-point terrain with the given seed by the controls.
+    void Produce(const char* seed);
+
+    std::vector<Height> Heights();
+
+    TemporaryFolder folder_;
+    RandomSource chance_{5};
+    Session session_;
+    std::unique_ptr<WindowHost> host_;
+    std::unique_ptr<frmTer> window_;
+};
+
+}  // namespace quillbrand

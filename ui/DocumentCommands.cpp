@@ -1,0 +1,139 @@
+#include "ui/DocumentCommands.h"
+
+#include "base/Fault.h"
+#include "shell/TerrainCommands.h"
+#include "shell/vbConfig.h"
+#include "ui/FileDialogs.h"
+#include "ui/Messages.h"
+#include "ui/dlgSaveAs.h"
+
+namespace quillbrand {
+
+namespace {
+
+constexpr int typeTer = 1;
+
+void RememberFolder(const Session& session) {
+    vbConfig::WriteIni(session, "Terrain", "Directory", session.TerrainDirectory.string());
+}
+
+}  // namespace
+
+void DocumentCommands::ShowTerrain(double zoomFactor) {
+    workplace_.ResizePicture(zoomFactor);
+    workplace_.TheHost().Busy(true);
+    workplace_.TheHost().Status("Picture create...");
+    workplace_.RebuildPicture();
+}
+
+bool DocumentCommands::AskToClear() {
+    return workplace_.TheHost().Ask({"Terrain clear ?  Are you sure ?", "Terrain clear"}) ==
+           Answer::Yes;
+}
+
+void DocumentCommands::Neu() {
+    if (!AskToClear())
+        return;
+    NewTerrain(workplace_.TheSession());
+    workplace_.RebuildPicture();
+}
+
+void DocumentCommands::Loeschen() {
+    if (!AskToClear())
+        return;
+    Session& session = workplace_.TheSession();
+    ClearTerrain(session, session.CurrentTerrain.XPoints());
+    workplace_.RebuildPicture();
+}
+
+bool DocumentCommands::Oeffnen() {
+    const auto chosen =
+        ChooseToOpen(workplace_.Window(), {.title = QStringLiteral("Terrain open ..."),
+                                           .filter = QStringLiteral("Terrainfiles|*.ter"),
+                                           .defaultExtension = QStringLiteral("ter"),
+                                           .startFolder = workplace_.TheSession().TerrainDirectory,
+                                           .fileName = {}});
+    return chosen && Open(chosen->path);
+}
+
+bool DocumentCommands::Open(const std::filesystem::path& path) {
+    OpenTerrain(workplace_.TheSession(), path, workplace_.TheHost());
+    ShowTerrain(0);
+    return true;
+}
+
+void DocumentCommands::Speichern() {
+    Session& session = workplace_.TheSession();
+    if (session.TerrainEmpty)
+        throw Fault("Terrain empty !", "Save");
+    if (session.CurrentFile != Session::noFile)
+        SaveCurrentFile(session, workplace_.TheHost());
+    else
+        FileSave(0);
+    session.TerrainSaved = true;
+}
+
+void DocumentCommands::SpeichernAls() {
+    if (workplace_.TheSession().TerrainEmpty)
+        throw Fault("Terrain empty !", "Save");
+    FileSave(0);
+}
+
+bool DocumentCommands::FileSave(int type) {
+    Session& session = workplace_.TheSession();
+    Host& host = workplace_.TheHost();
+    session.SaveType = type;
+    if (type < typeTer) {
+        dlgSaveAs dialog(workplace_.Window());
+        dialog.exec();
+        session.SaveType = dialog.SaveType;
+    }
+    if (session.SaveType != typeTer)
+        return false;
+    const auto chosen =
+        ChooseToSave(workplace_.Window(), {.title = QStringLiteral("Terrain save ..."),
+                                           .filter = QStringLiteral("Terrainfiles|*.ter"),
+                                           .defaultExtension = QStringLiteral("ter"),
+                                           .startFolder = session.TerrainDirectory,
+                                           .fileName = {}});
+    if (!chosen) {
+        RememberFolder(session);
+        return false;
+    }
+    host.Busy(true);
+    host.Status("Save.....");
+    SaveTerrain(session, chosen->path, true, host);
+    session.TerrainDirectory = chosen->path.parent_path();
+    RememberFolder(session);
+    host.ActualScreen();
+    return true;
+}
+
+void DocumentCommands::Backup() {
+    Session& session = workplace_.TheSession();
+    BackupTerrain(session, BackupPath(session));
+}
+
+void DocumentCommands::Restore() {
+    Session& session = workplace_.TheSession();
+    if (!session.BackupExists)
+        throw Fault("Backup empty ! Use the Button BACKUP for protection of the terrain !",
+                    "Restore Terrain");
+    RestoreTerrain(session, BackupPath(session));
+    workplace_.ResizePicture();
+    workplace_.TheHost().ActualScreen();
+    workplace_.RebuildPicture();
+}
+
+bool DocumentCommands::MayExit() {
+    const Session& session = workplace_.TheSession();
+    if (session.TerrainEmpty || session.TerrainSaved)
+        return true;
+    const Answer answer = workplace_.TheHost().Ask(
+        {"The terrain is not saved!  Do you want to save?", "EXIT", Buttons::YesNoCancel});
+    if (answer == Answer::Yes)
+        return FileSave(0);
+    return answer == Answer::No;
+}
+
+}  // namespace quillbrand

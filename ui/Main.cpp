@@ -1,0 +1,12 @@
+#include <cstdio>
+
+#include "ui/Startup.h"
+
+int main(int argc, char** argv) {
+    const auto arguments = quillbrand::ParseArguments(argc, argv);
+    if (!arguments.answer.empty()) {
+        std::fputs(arguments.answer.c_str(), stdout);
+        return 0;
+    }
+    return quillbrand::RunEditor(argc, argv, arguments);
+}

@@ -1,0 +1,67 @@
+#include "ui/Messages.h"
+
+#include <QMessageBox>
+#include <new>
+
+#include "base/Fault.h"
+
+namespace quillbrand {
+
+namespace {
+
+QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel:
+            break;
+    }
+    return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+}
+
+/// Line breaks as the texts have them, without the carriage returns that a label would show.
+QString Lines(const std::string& text) {
+    return QString::fromStdString(text).remove(QLatin1Char('\r'));
+}
+
+}  // namespace
+
+Answer AskUser(QWidget* parent, const Question& question) {
+    QMessageBox box(QMessageBox::Question, QString::fromStdString(question.title),
+                    Lines(question.text), ButtonsOf(question.buttons), parent);
+    switch (box.exec()) {
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return question.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    }
+}
+
+void TellUser(QWidget* parent, const QString& text, const QString& title) {
+    QMessageBox(QMessageBox::Information, title, text, QMessageBox::Ok, parent).exec();
+}
+
+void WarnUser(QWidget* parent, const QString& text, const QString& title) {
+    QMessageBox(QMessageBox::Critical, title, text, QMessageBox::Ok, parent).exec();
+}
+
+bool RunCommand(QWidget* parent, const QString& command, const std::function<void()>& action) {
+    try {
+        action();
+        return true;
+    } catch (const Fault& fault) {
+        const QString title = QString::fromStdString(fault.Title());
+        WarnUser(parent, Lines(fault.what()), title.isEmpty() ? command : title);
+    } catch (const std::bad_alloc&) {
+        WarnUser(parent, QStringLiteral("not enough memory"), command);
+    }
+    return false;
+}
+
+}  // namespace quillbrand

@@ -1,0 +1,66 @@
+#include "ui/Startup.h"
+
+#include <QApplication>
+
+#include "base/Fault.h"
+#include "shell/ProgramFolder.h"
+#include "shell/SubMain.h"
+#include "ui/Messages.h"
+#include "ui/Theme.h"
+#include "ui/WindowHost.h"
+#include "ui/frmAbout.h"
+#include "ui/frmTer.h"
+
+namespace quillbrand {
+
+namespace {
+
+constexpr auto help =
+    "Usage: quillbrand [FILE]\n"
+    "Opens the editor, with the Terragen terrain FILE if one is named.\n\n"
+    "  --help      this text\n"
+    "  --version   the version\n";
+
+}  // namespace
+
+StartArguments ParseArguments(int argc, char** argv) {
+    StartArguments arguments;
+    for (int i = 1; i < argc; ++i) {
+        const std::string word = argv[i];
+        if (word == "--help")
+            arguments.answer = help;
+        else if (word == "--version")
+            arguments.answer = "quillbrand " QB_VERSION "\n";
+        else
+            // The whole command line is one path, blanks included.
+            arguments.file += (arguments.file.empty() ? "" : " ") + word;
+    }
+    return arguments;
+}
+
+int RunEditor(int& argc, char** argv, const StartArguments& arguments) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillbrand"));
+    QApplication::setApplicationVersion(QStringLiteral(QB_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("quillbrand"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quillbrand.svg")));
+    ApplyStyle();
+
+    Session session;
+    RandomSource chance;
+    const bool ready = RunCommand(nullptr, QStringLiteral("Quillbrand"), [&] {
+        SubMain(session, FindProgramFolder(PlacesOfThisProcess("")), arguments.file, chance);
+    });
+    if (!ready)
+        return 1;
+    WindowHost host(session, chance);
+    frmTer window(session, host);
+    window.show();
+    frmAbout splash(&window);
+    splash.ShowAsSplash();
+    if (!window.Form_Load())
+        return 1;
+    return QApplication::exec();
+}
+
+}  // namespace quillbrand

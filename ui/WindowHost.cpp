@@ -1,0 +1,41 @@
+#include "ui/WindowHost.h"
+
+#include <QCoreApplication>
+
+#include "ui/Messages.h"
+
+namespace quillbrand {
+
+namespace {
+
+constexpr int pumpEveryMs = 10;
+
+}  // namespace
+
+void WindowHost::Attach(QWidget* window, std::function<void(const std::string&)> showStatus,
+                        std::function<void()> actualScreen) {
+    window_ = window;
+    showStatus_ = std::move(showStatus);
+    actualScreen_ = std::move(actualScreen);
+}
+
+void WindowHost::Status(std::string_view text) {
+    showStatus_(std::string(text));
+}
+
+void WindowHost::Yield() {
+    if (sincePump_.elapsed() < pumpEveryMs)
+        return;
+    QCoreApplication::processEvents();
+    sincePump_.restart();
+}
+
+void WindowHost::ActualScreen() {
+    actualScreen_();
+}
+
+Answer WindowHost::Ask(const Question& question) {
+    return AskUser(window_, question);
+}
+
+}  // namespace quillbrand

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QWidget>
+
+#include "ui/Workplace.h"
+
+class QCheckBox;
+class QLabel;
+class QSlider;
+
+namespace quillbrand {
+
+class PictureBox;
+
+/// `PicZ`: the cross-section that takes the plan view's place, with a thumbnail of the plan, the
+/// sliders that move it and the colour bar.
+class ZViewPanel : public QWidget {
+    Q_OBJECT
+
+  public:
+    ZViewPanel(Workplace& workplace, QWidget* parent = nullptr);
+
+    /// Shows the section that `sldXView` is at; `plan` becomes the thumbnail. The heights must be
+    /// stretched to the full range. Returns false, having said so, for a flat terrain.
+    bool Open(const Picture& plan);
+
+    /// The ends of the height scale as the user sees them elsewhere, in metres.
+    void SetAltitudes(const QString& low, const QString& high);
+
+  signals:
+    /// The user wants the section drawn anew (`PicZView_Click`, `chkRealViewZ_Click`).
+    void Reopen();
+
+    /// The terrain is flat: back to the plan view.
+    void Leave();
+
+    void ThumbnailMouseMove(double x, double y);
+
+  private:
+    QWidget* BuildSection();
+    QLayout* BuildPosition();
+    QLayout* BuildWords();
+    void ConnectControls();
+    QWidget* BuildColourTable();
+    void DrawColourBar();
+
+    /// Draws the section at a slider's position; `axis` 1 cuts a row, 0 a column.
+    bool ZView(int position, int axis);
+
+    Workplace& workplace_;
+    PictureBox* frmZView_;
+    PictureBox* PicZView_;
+    PictureBox* PicColor_;
+    QSlider* sldXView_;
+    QSlider* SldYView_;
+    QCheckBox* chkRealViewZ_;
+    QLabel* lblZhigh_;
+    QLabel* lblZlow_;
+    QLabel* lblViewFrom_;
+    QLabel* lblColTblMax_;
+    QLabel* lblColTblMin_;
+    QString low_;
+    QString high_;
+    int ZViewAxis_ = 1;
+};
+
+}  // namespace quillbrand

@@ -1,0 +1,82 @@
+#include "ui/dlgGenModify.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <array>
+
+#include "generator/GeneratorSettings.h"
+#include "ui/Controls.h"
+
+namespace quillbrand {
+
+namespace {
+
+struct ModeOption {
+    int mode;
+    const char* caption;
+};
+
+constexpr std::array modeOptions = {
+    ModeOption{Add, "Add"},
+    ModeOption{Subtraction, "Subtraction"},
+    ModeOption{Multiplication, "Multiplication"},
+    ModeOption{Division, "Division"},
+    ModeOption{highest, "highest"},
+    ModeOption{lowest, "lowest"},
+};
+
+}  // namespace
+
+dlgGenModify::dlgGenModify(int mode, QWidget* parent) : QDialog(parent), given_(mode) {
+    setObjectName(QStringLiteral("dlgGenModify"));
+    setWindowTitle(QStringLiteral("Modify Terrain"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(gap);
+    layout->addWidget(BuildOptions());
+
+    auto* info = MakeFrame("Info");
+    auto* words =
+        new QLabel(QStringLiteral("Setting the option to the calculation the overlaying terrain"));
+    words->setWordWrap(true);
+    (new QVBoxLayout(info))->addWidget(words);
+    layout->addWidget(info);
+
+    auto* OKButton = MakeButton("OKButton", "&OK");
+    auto* CancelButton = MakeButton("CancelButton", "&Cancel");
+    OKButton->setDefault(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(OKButton);
+    buttons->addWidget(CancelButton);
+    layout->addLayout(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    connect(OKButton, &QPushButton::clicked, this, &QDialog::accept);
+    connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+QWidget* dlgGenModify::BuildOptions() {
+    auto* frame = MakeFrame("Options");
+    auto* grid = new QGridLayout(frame);
+    grid->setSpacing(gap);
+    optModifyTerrain_ = new QButtonGroup(this);
+    constexpr int rows = 3;
+    for (int place = 0; const ModeOption& choice : modeOptions) {
+        auto* option = new QRadioButton(QString::fromUtf8(choice.caption));
+        option->setObjectName(QStringLiteral("optModifyTerrain%1").arg(choice.mode));
+        option->setProperty("Index", choice.mode);
+        option->setChecked(choice.mode == given_);
+        optModifyTerrain_->addButton(option, choice.mode);
+        grid->addWidget(option, place % rows, place / rows, Qt::AlignLeft);
+        ++place;
+    }
+    return frame;
+}
+
+int dlgGenModify::Mode() const {
+    const int ticked = optModifyTerrain_->checkedId();
+    return ticked < 0 ? given_ : ticked;
+}
+
+}  // namespace quillbrand

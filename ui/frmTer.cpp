@@ -1,0 +1,403 @@
+#include "ui/frmTer.h"
+
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QHBoxLayout>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QStackedLayout>
+#include <QTabWidget>
+#include <QTimer>
+
+#include "base/NumberText.h"
+#include "base/Stdio.h"
+#include "editor/HeightPicture.h"
+#include "editor/Palette.h"
+#include "editor/PointTexts.h"
+#include "editor/View.h"
+#include "shell/TerrainCommands.h"
+#include "ui/Controls.h"
+#include "ui/EditPanel.h"
+#include "ui/EffectsPanel.h"
+#include "ui/GeneratorPanel.h"
+#include "ui/GlobalPanel.h"
+#include "ui/Messages.h"
+#include "ui/ObjectsPanel.h"
+#include "ui/PictureBox.h"
+#include "ui/StatusPanels.h"
+#include "ui/ToolStrip.h"
+#include "ui/Toolbar1.h"
+#include "ui/ZViewPanel.h"
+#include "ui/dlgSavePerlinsetNew.h"
+#include "ui/frmAbout.h"
+
+namespace quillbrand {
+
+namespace {
+
+constexpr int heartbeatMs = 200;
+constexpr int rightColumnWidth = 372;
+
+/// Room around the picture.
+constexpr int pictureMargin = 20;
+
+QColor ColorOf(Colour colour) {
+    return {colour & 255, (colour >> 8) & 255, (colour >> 16) & 255};
+}
+
+/// The one local TER file of a drag, or nothing.
+std::optional<std::filesystem::path> DraggedTerrain(const QMimeData* data) {
+    if (data == nullptr || data->urls().size() != 1 || !data->urls().front().isLocalFile())
+        return std::nullopt;
+    const QString path = data->urls().front().toLocalFile();
+    if (!path.endsWith(QStringLiteral(".ter"), Qt::CaseInsensitive))
+        return std::nullopt;
+    return path.toStdString();
+}
+
+}  // namespace
+
+frmTer::frmTer(Session& session, WindowHost& host, QWidget* parent)
+    : QMainWindow(parent), session_(session), host_(host), document_(*this) {
+    setObjectName(QStringLiteral("frmTer"));
+    setAcceptDrops(true);
+    BuildWindow();
+    ConnectParts();
+    host_.Attach(
+        this, [this](const std::string& text) { InfoText_->setText(QString::fromStdString(text)); },
+        [this] { ActualScreen(); });
+    UpdateTitle();
+}
+
+frmTer::~frmTer() = default;
+
+void frmTer::BuildWindow() {
+    toolbar_ = new Toolbar1(this);
+    addToolBar(Qt::TopToolBarArea, toolbar_);
+    sBar_ = new StatusPanels(this);
+    setStatusBar(sBar_);
+
+    auto* centre = new QWidget(this);
+    auto* layout = new QHBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    toolStrip_ = new ToolStrip;
+    layout->addWidget(toolStrip_);
+    layout->addWidget(BuildPictures(), 1);
+    layout->addWidget(BuildRightColumn());
+    setCentralWidget(centre);
+    resize(1280, 800);
+
+    Timer1_ = new QTimer(this);
+    Timer1_->setObjectName(QStringLiteral("Timer1"));
+    Timer1_->start(heartbeatMs);
+}
+
+QWidget* frmTer::BuildPictures() {
+    pictures_ = new QWidget;
+    pictures_->setObjectName(QStringLiteral("PictureArea"));
+    pictures_->setMinimumSize(320, 320);
+
+    auto* plan = new QWidget;
+    plan->setAutoFillBackground(true);
+    QPalette black;
+    black.setColor(QPalette::Window, Qt::black);
+    plan->setPalette(black);
+    auto* planLayout = new QHBoxLayout(plan);
+    planLayout->setContentsMargins(0, 0, 0, 0);
+    Picture1_ = new PictureBox;
+    Picture1_->setObjectName(QStringLiteral("Picture1"));
+    planLayout->addWidget(Picture1_, 0, Qt::AlignCenter);
+
+    PicZ_ = new ZViewPanel(*this);
+    views_ = new QStackedLayout(pictures_);
+    views_->addWidget(plan);
+    views_->addWidget(PicZ_);
+    return pictures_;
+}
+
+QWidget* frmTer::BuildRightColumn() {
+    auto* column = new QWidget;
+    column->setFixedWidth(rightColumnWidth);
+    auto* layout = new QVBoxLayout(column);
+    layout->setContentsMargins(gap, gap, gap, gap);
+    layout->setSpacing(gap);
+    auto* top = new QHBoxLayout;
+    top->addWidget(BuildViewFrame());
+    top->addWidget(BuildInfoFrame(), 1);
+    layout->addLayout(top);
+    BuildTabs();
+    layout->addWidget(SSTab1_, 1);
+    return column;
+}
+
+QWidget* frmTer::BuildViewFrame() {
+    auto* frame = MakeFrame("View");
+    auto* layout = new QHBoxLayout(frame);
+    OptXYView_ = Named(new QRadioButton(QStringLiteral("X-Y")), "OptXYView", "select normal-view");
+    optZView_ = Named(new QRadioButton(QStringLiteral("Z")), "optZView", "select z-view");
+    OptXYView_->setChecked(true);
+    layout->addWidget(OptXYView_);
+    layout->addWidget(optZView_);
+    return frame;
+}
+
+QWidget* frmTer::BuildInfoFrame() {
+    auto* frame = MakeFrame("Info");
+    auto* layout = new QVBoxLayout(frame);
+    InfoText_ = Named(new QLabel(QStringLiteral("Ready")), "InfoText");
+    InfoText_->setMinimumWidth(10);
+    PB_ = Named(new QProgressBar, "PB", "Process announcement");
+    PB_->setRange(0, 100);
+    PB_->setTextVisible(false);
+    PB_->setFixedHeight(12);
+    layout->addWidget(InfoText_);
+    layout->addWidget(PB_);
+    return frame;
+}
+
+void frmTer::BuildTabs() {
+    SSTab1_ = Named(new QTabWidget, "SSTab1");
+    SSTab1_->setUsesScrollButtons(false);
+    globalPanel_ = new GlobalPanel(*this);
+    generatorPanel_ = new GeneratorPanel(*this);
+    editPanel_ = new EditPanel(*this);
+    effectsPanel_ = new EffectsPanel(*this);
+    objectsPanel_ = new ObjectsPanel(*this);
+    SSTab1_->addTab(globalPanel_, QStringLiteral("Global"));
+    SSTab1_->addTab(generatorPanel_, QStringLiteral("Generator"));
+    SSTab1_->addTab(editPanel_, QStringLiteral("Edit"));
+    SSTab1_->addTab(effectsPanel_, QStringLiteral("Effects"));
+    SSTab1_->addTab(objectsPanel_, QStringLiteral("Objects"));
+    SSTab1_->setCurrentWidget(generatorPanel_);
+}
+
+void frmTer::ConnectParts() {
+    connect(Timer1_, &QTimer::timeout, this, &frmTer::Timer1_Timer);
+    connect(toolbar_, &Toolbar1::ButtonClick, this, &frmTer::Toolbar1_ButtonClick);
+    connect(OptXYView_, &QRadioButton::clicked, this, &frmTer::ShowPlanView);
+    connect(optZView_, &QRadioButton::clicked, this, &frmTer::optZView_Click);
+    connect(Picture1_, &PictureBox::MouseMove, this, &frmTer::Picture1_MouseMove);
+    connect(Picture1_, &PictureBox::DoubleClicked, this, &frmTer::Picture1_DblClick);
+    connect(PicZ_, &ZViewPanel::Reopen, this, &frmTer::optZView_Click);
+    connect(PicZ_, &ZViewPanel::Leave, this, &frmTer::ShowPlanView);
+    connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, this, &frmTer::Picture1_MouseMove);
+}
+
+bool frmTer::Form_Load() {
+    session_.CurrentTerrain.pProgress = 100;
+    session_.TerrainBusy = false;
+    loaded_ = true;
+    ResizePicture();
+    session_.TerrainEmpty = true;
+    ActualScreen();
+    if (!PerlinPathExists(session_.PerlinSets.folder)) {
+        WarnUser(this,
+                 QStringLiteral("Perlinsets not found !! Please install Perlinsets in "
+                                "Quillbrandsubfolder \\PS !"),
+                 QStringLiteral("ERROR"));
+        return false;
+    }
+    generatorPanel_->LoadPerlinList();
+    Picture1_->SetBackColor(ColorOf(PaletteTable(128, session_.PaletteRow)));
+    if (!session_.StartFile.empty())
+        OpenFile(session_.StartFile);
+    return true;
+}
+
+double frmTer::PictureLimit() const {
+    return std::min(pictures_->width(), pictures_->height()) - pictureMargin;
+}
+
+void frmTer::ShowPlanView() {
+    views_->setCurrentIndex(0);
+    OptXYView_->setChecked(true);
+}
+
+void frmTer::ResizePicture(double factor) {
+    const int size = session_.CurrentTerrain.Size();
+    session_.ViewZoom = NextZoom(session_.ViewZoom, factor, size, PictureLimit());
+    ShowPlanView();
+    const int side = PictureSide(session_.ViewZoom, size);
+    Picture1_->setFixedSize(side, side);
+    Picture1_->SetUnits(size);
+    globalPanel_->TickSize(size);
+    sBar_->SetPanel(1, ZoomText(session_.ViewZoom, size));
+    ActualScreen();
+}
+
+void frmTer::RebuildPicture() {
+    BuildHeightPicture(Picture1_->Raster(), session_.CurrentTerrain, session_.PaletteRow, host_);
+    Picture1_->update();
+}
+
+std::optional<int> frmTer::ChosenSize() {
+    return globalPanel_->ChosenSize();
+}
+
+void frmTer::UpdateTitle() {
+    const QString file = QString::fromStdString(session_.CurrentFile);
+    if (!isMinimized()) {
+        setWindowTitle(QStringLiteral("Quillbrand  [") + file + QLatin1Char(']'));
+        return;
+    }
+    const QString state =
+        session_.TerrainBusy
+            ? QString::fromStdString(Format(session_.CurrentTerrain.pProgress / 100.0, "### %"))
+            : QStringLiteral("Ready");
+    setWindowTitle(state + QStringLiteral(" - Quillbrand  [") + file + QStringLiteral("]   "));
+}
+
+void frmTer::ActualScreen() {
+    UpdateTitle();
+    globalPanel_->Refresh();
+    const bool hasTerrain = !session_.TerrainEmpty;
+    for (const char* key : {"Speichern", "SpeichernAls", "Print", "Backup"})
+        toolbar_->EnableButton(QString::fromUtf8(key), hasTerrain);
+    toolbar_->EnableButton(QStringLiteral("Restore"), session_.BackupExists);
+    effectsPanel_->Refresh();
+    generatorPanel_->Refresh();
+}
+
+void frmTer::Timer1_Timer() {
+    const bool busy = session_.TerrainBusy;
+    if (busy != wasBusy_) {
+        for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, Picture1_, PicZ_})
+            part->setEnabled(!busy);
+        busy ? setCursor(Qt::WaitCursor) : unsetCursor();
+        wasBusy_ = busy;
+    }
+    if (busy) {
+        PB_->setValue(STDIO::ClampValue(0, 100, session_.CurrentTerrain.pProgress));
+    } else {
+        InfoText_->setText(QStringLiteral("Ready"));
+        PB_->setValue(0);
+    }
+    if (isMinimized())
+        UpdateTitle();
+}
+
+void frmTer::Toolbar1_ButtonClick(const QString& key) {
+    session_.CurrentTerrain.CRAD(static_cast<float>(globalPanel_->PlanetRadius()));
+    session_.CurrentTerrain.CRVM(globalPanel_->Curved() ? 1 : 0);
+    ShowPlanView();
+    bool commonEnd = true;
+    RunCommand(this, toolbar_->Button(key)->text(), [&] { commonEnd = RunButton(key); });
+    if (commonEnd)
+        CommonEnd();
+}
+
+/// False for a command that ends without the steps that all others end with.
+bool frmTer::RunButton(const QString& key) {
+    if (key == QStringLiteral("SavePerlin"))
+        dlgSavePerlinsetNew(*this).exec();
+    else if (key == QStringLiteral("Neu"))
+        document_.Neu();
+    else if (key == QStringLiteral("Öffnen"))
+        return document_.Oeffnen();
+    else if (key == QStringLiteral("Speichern"))
+        document_.Speichern();
+    else if (key == QStringLiteral("SpeichernAls"))
+        document_.SpeichernAls();
+    else if (key == QStringLiteral("Löschen"))
+        document_.Loeschen();
+    else if (key == QStringLiteral("Backup"))
+        document_.Backup();
+    else if (key == QStringLiteral("Restore"))
+        document_.Restore();
+    else if (key == QStringLiteral("Hilfe"))
+        frmAbout(this).exec();
+    else if (key == QStringLiteral("Zoom in"))
+        ResizePicture(2);
+    else if (key == QStringLiteral("Zoom out"))
+        ResizePicture(0.5);
+    else if (key == QStringLiteral("Zoom100"))
+        ResizePicture(0);
+    return true;
+}
+
+void frmTer::CommonEnd() {
+    InfoText_->setText(QStringLiteral("Ready"));
+    PB_->setValue(0);
+    session_.TerrainBusy = false;
+    ActualScreen();
+}
+
+void frmTer::OpenFile(const std::filesystem::path& path) {
+    RunCommand(this, QStringLiteral("Open"), [&] { document_.Open(path); });
+    CommonEnd();
+}
+
+void frmTer::optZView_Click() {
+    if (session_.TerrainEmpty) {
+        TellUser(this, QStringLiteral("Terrain empty !"), QStringLiteral("Z-View"));
+        ShowPlanView();
+        return;
+    }
+    session_.CurrentTerrain.ScaleTerrain();
+    ActualScreen();
+    PicZ_->SetAltitudes(globalPanel_->LowestText(), globalPanel_->HighestText());
+    optZView_->setChecked(true);
+    views_->setCurrentIndex(1);
+    PicZ_->Open(Picture1_->Raster());
+}
+
+void frmTer::Picture1_MouseMove(double x, double y) {
+    if (session_.TerrainBusy)
+        return;
+    if (const auto texts = PointTexts(session_.CurrentTerrain, x, y))
+        for (std::size_t i = 0; i < texts->size(); ++i)
+            sBar_->SetPanel(static_cast<int>(i) + 2, (*texts)[i]);
+}
+
+void frmTer::Picture1_DblClick() {
+    host_.Busy(true);
+    host_.Status("Picture redraw...");
+    host_.Yield();
+    RebuildPicture();
+    host_.Status("Ready");
+    host_.Busy(false);
+}
+
+void frmTer::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (!loaded_)
+        return;
+    const bool inZView = views_->currentIndex() == 1;
+    ResizePicture();
+    if (inZView) {
+        views_->setCurrentIndex(1);
+        optZView_->setChecked(true);
+    }
+}
+
+void frmTer::closeEvent(QCloseEvent* event) {
+    bool mayExit = false;
+    RunCommand(this, QStringLiteral("EXIT"), [&] { mayExit = document_.MayExit(); });
+    session_.TerrainBusy = false;
+    event->setAccepted(mayExit);
+    if (mayExit)
+        RemoveBackup(session_);
+}
+
+void frmTer::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange)
+        UpdateTitle();
+    if (event->type() == QEvent::PaletteChange) {
+        toolbar_->TintIcons();
+        toolStrip_->TintIcons();
+    }
+}
+
+void frmTer::dragEnterEvent(QDragEnterEvent* event) {
+    if (!session_.TerrainBusy && DraggedTerrain(event->mimeData()))
+        event->acceptProposedAction();
+}
+
+void frmTer::dropEvent(QDropEvent* event) {
+    if (const auto path = DraggedTerrain(event->mimeData()))
+        OpenFile(*path);
+}
+
+}  // namespace quillbrand
