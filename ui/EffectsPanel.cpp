@@ -160,9 +160,8 @@ void EffectsPanel::ConnectControls() {
     connect(sldZMax_, &QSlider::valueChanged, this, &EffectsPanel::sldZMax_Change);
     connect(cmdZrangeReset_, &QPushButton::clicked, this, &EffectsPanel::cmdZrangeReset_Click);
     connect(cmdStartEffects_, &QPushButton::clicked, this, [this] {
-        if (!RunCommand(workplace_.Window(), QStringLiteral("Effects"),
-                        [this] { cmdStartEffects_Click(); }))
-            workplace_.TheHost().Busy(false);
+        RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Effects"),
+                   [this] { cmdStartEffects_Click(); });
     });
 }
 

@@ -115,7 +115,8 @@ QLayout* GeneratorPanel::BuildButtons() {
 void GeneratorPanel::ConnectControls() {
     const auto onClick = [this](QPushButton* button, void (GeneratorPanel::*handler)()) {
         connect(button, &QPushButton::clicked, this, [this, button, handler] {
-            RunCommand(this, button->text(), [this, handler] { (this->*handler)(); });
+            RunCommand(this, workplace_.TheHost(), button->text(),
+                       [this, handler] { (this->*handler)(); });
         });
     };
     onClick(cmdGenerator_, &GeneratorPanel::cmdGenerator_Click);

@@ -2,6 +2,7 @@
 
 #include <QMessageBox>
 #include <new>
+#include <optional>
 
 #include "base/Fault.h"
 
@@ -24,6 +25,24 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
 /// Line breaks as the texts have them, without the carriage returns that a label would show.
 QString Lines(const std::string& text) {
     return QString::fromStdString(text).remove(QLatin1Char('\r'));
+}
+
+struct Complaint {
+    QString text;
+    QString title;
+};
+
+/// What went wrong, or nothing.
+std::optional<Complaint> Attempt(const QString& command, const std::function<void()>& action) {
+    try {
+        action();
+        return std::nullopt;
+    } catch (const Fault& fault) {
+        const QString title = QString::fromStdString(fault.Title());
+        return Complaint{Lines(fault.what()), title.isEmpty() ? command : title};
+    } catch (const std::bad_alloc&) {
+        return Complaint{QStringLiteral("not enough memory"), command};
+    }
 }
 
 }  // namespace
@@ -51,17 +70,21 @@ void WarnUser(QWidget* parent, const QString& text, const QString& title) {
     QMessageBox(QMessageBox::Critical, title, text, QMessageBox::Ok, parent).exec();
 }
 
-bool RunCommand(QWidget* parent, const QString& command, const std::function<void()>& action) {
-    try {
-        action();
+bool RunCommand(QWidget* parent, Host& host, const QString& command,
+                const std::function<void()>& action) {
+    const std::optional<Complaint> complaint = Attempt(command, action);
+    if (!complaint)
         return true;
-    } catch (const Fault& fault) {
-        const QString title = QString::fromStdString(fault.Title());
-        WarnUser(parent, Lines(fault.what()), title.isEmpty() ? command : title);
-    } catch (const std::bad_alloc&) {
-        WarnUser(parent, QStringLiteral("not enough memory"), command);
-    }
+    host.Busy(false);
+    WarnUser(parent, complaint->text, complaint->title);
     return false;
+}
+
+bool RunStart(const QString& command, const std::function<void()>& action) {
+    const std::optional<Complaint> complaint = Attempt(command, action);
+    if (complaint)
+        WarnUser(nullptr, complaint->text, complaint->title);
+    return !complaint;
 }
 
 }  // namespace quillbrand

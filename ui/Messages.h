@@ -20,7 +20,12 @@ void TellUser(QWidget* parent, const QString& text, const QString& title);
 void WarnUser(QWidget* parent, const QString& text, const QString& title);
 
 /// Runs what a button does. A Fault ends it with a message whose title is `command` unless the
-/// fault has one of its own; so does running out of memory. Returns false after a fault.
-bool RunCommand(QWidget* parent, const QString& command, const std::function<void()>& action);
+/// fault has one of its own; so does running out of memory. The busy flag is clear after a fault.
+/// Returns false then.
+bool RunCommand(QWidget* parent, Host& host, const QString& command,
+                const std::function<void()>& action);
+
+/// The same before there is a window and a host.
+bool RunStart(const QString& command, const std::function<void()>& action);
 
 }  // namespace quillbrand

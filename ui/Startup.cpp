@@ -48,7 +48,7 @@ int RunEditor(int& argc, char** argv, const StartArguments& arguments) {
 
     Session session;
     RandomSource chance;
-    const bool ready = RunCommand(nullptr, QStringLiteral("Quillbrand"), [&] {
+    const bool ready = RunStart(QStringLiteral("Quillbrand"), [&] {
         SubMain(session, FindProgramFolder(PlacesOfThisProcess("")), arguments.file, chance);
     });
     if (!ready)

@@ -17,11 +17,13 @@ class WindowHost : public SessionHost {
         sincePump_.start();
     }
 
-    /// The window that shows the status, is brought into line and owns the message boxes.
+    /// The window that shows the status, is brought into line, keeps input out while the busy flag
+    /// is set, and owns the message boxes.
     void Attach(QWidget* window, std::function<void(const std::string&)> showStatus,
-                std::function<void()> actualScreen);
+                std::function<void()> actualScreen, std::function<void()> keepInputOut);
 
     void Status(std::string_view text) override;
+    void Busy(bool busy) override;
     void Yield() override;
     void ActualScreen() override;
     Answer Ask(const Question& question) override;
@@ -30,6 +32,7 @@ class WindowHost : public SessionHost {
     QWidget* window_ = nullptr;
     std::function<void(const std::string&)> showStatus_ = [](const std::string&) {};
     std::function<void()> actualScreen_ = [] {};
+    std::function<void()> keepInputOut_ = [] {};
     QElapsedTimer sincePump_;
 };
 

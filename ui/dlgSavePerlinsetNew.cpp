@@ -35,8 +35,7 @@ dlgSavePerlinsetNew::dlgSavePerlinsetNew(Workplace& workplace)
 }
 
 void dlgSavePerlinsetNew::OKButton_Click() {
-    if (!RunCommand(this, windowTitle(), [this] { SavePerlinSet(); }))
-        workplace_.TheHost().Busy(false);
+    RunCommand(this, workplace_.TheHost(), windowTitle(), [this] { SavePerlinSet(); });
 }
 
 void dlgSavePerlinsetNew::SavePerlinSet() {

@@ -65,7 +65,7 @@ frmTer::frmTer(Session& session, WindowHost& host, QWidget* parent)
     ConnectParts();
     host_.Attach(
         this, [this](const std::string& text) { InfoText_->setText(QString::fromStdString(text)); },
-        [this] { ActualScreen(); });
+        [this] { ActualScreen(); }, [this] { KeepInputOut(); });
     UpdateTitle();
 }
 
@@ -259,14 +259,23 @@ void frmTer::ActualScreen() {
     generatorPanel_->Refresh();
 }
 
+void frmTer::EnableInput(bool enable) {
+    if (enable == inputEnabled_)
+        return;
+    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, Picture1_, PicZ_})
+        part->setEnabled(enable);
+    enable ? unsetCursor() : setCursor(Qt::WaitCursor);
+    inputEnabled_ = enable;
+}
+
+/// Not before the next heartbeat only: events are let through earlier than that.
+void frmTer::KeepInputOut() {
+    EnableInput(false);
+}
+
 void frmTer::Timer1_Timer() {
     const bool busy = session_.TerrainBusy;
-    if (busy != wasBusy_) {
-        for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, Picture1_, PicZ_})
-            part->setEnabled(!busy);
-        busy ? setCursor(Qt::WaitCursor) : unsetCursor();
-        wasBusy_ = busy;
-    }
+    EnableInput(!busy);
     if (busy) {
         PB_->setValue(STDIO::ClampValue(0, 100, session_.CurrentTerrain.pProgress));
     } else {
@@ -282,7 +291,7 @@ void frmTer::Toolbar1_ButtonClick(const QString& key) {
     session_.CurrentTerrain.CRVM(globalPanel_->Curved() ? 1 : 0);
     ShowPlanView();
     bool commonEnd = true;
-    RunCommand(this, toolbar_->Button(key)->text(), [&] { commonEnd = RunButton(key); });
+    RunCommand(this, host_, toolbar_->Button(key)->text(), [&] { commonEnd = RunButton(key); });
     if (commonEnd)
         CommonEnd();
 }
@@ -324,7 +333,7 @@ void frmTer::CommonEnd() {
 }
 
 void frmTer::OpenFile(const std::filesystem::path& path) {
-    RunCommand(this, QStringLiteral("Open"), [&] { document_.Open(path); });
+    RunCommand(this, host_, QStringLiteral("Open"), [&] { document_.Open(path); });
     CommonEnd();
 }
 
@@ -373,7 +382,7 @@ void frmTer::resizeEvent(QResizeEvent* event) {
 
 void frmTer::closeEvent(QCloseEvent* event) {
     bool mayExit = false;
-    RunCommand(this, QStringLiteral("EXIT"), [&] { mayExit = document_.MayExit(); });
+    RunCommand(this, host_, QStringLiteral("EXIT"), [&] { mayExit = document_.MayExit(); });
     session_.TerrainBusy = false;
     event->setAccepted(mayExit);
     if (mayExit)

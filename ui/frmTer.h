@@ -69,6 +69,8 @@ class frmTer : public QMainWindow, public Workplace {
     void ConnectParts();
 
     void ActualScreen();
+    void EnableInput(bool enable);
+    void KeepInputOut();
     void Timer1_Timer();
     void Toolbar1_ButtonClick(const QString& key);
     bool RunButton(const QString& key);
@@ -102,7 +104,7 @@ class frmTer : public QMainWindow, public Workplace {
     StatusPanels* sBar_;
     QTimer* Timer1_;
     bool loaded_ = false;
-    bool wasBusy_ = false;
+    bool inputEnabled_ = true;
 };
 
 }  // namespace quillbrand

@@ -1,7 +1,10 @@
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
+#include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QProcess>
 #include <QProgressBar>
 #include <QSlider>
@@ -149,12 +152,10 @@ TEST_F(MainWindow, StaysAsItWasWhenAFileCannotBeReadOrWritten) {
     EXPECT_EQ(Heights(), before);
     EXPECT_FALSE(session_.TerrainSaved);
     EXPECT_FALSE(session_.TerrainBusy);
-    EXPECT_TRUE(Find<QToolBar>("Toolbar1")->isEnabled());
+    WaitUntilReady();
 }
 
 TEST_F(MainWindow, OpensAFileNamedAtTheStartAndOneThatIsDropped) {
-    clsTerrain terrain = GridFrom("-30000 2 3 4 / 5 6 7 8 / 9 1 1 1 / 1 1 1 30000");
-    RandomSource chance(1);
     ASSERT_TRUE(StartWindow());
     Produce("555");
     {
@@ -168,6 +169,14 @@ TEST_F(MainWindow, OpensAFileNamedAtTheStartAndOneThatIsDropped) {
     EXPECT_EQ(TextOf(session_.CurrentTerrain), saved);
     EXPECT_FALSE(session_.TerrainEmpty);
     EXPECT_EQ(session_.CurrentFile, (folder_ / "x.ter").string());
+
+    WaitUntilReady();
+    session_.CurrentTerrain.Fill(0);
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString((folder_ / "x.ter").string()))});
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &drop);
+    EXPECT_EQ(TextOf(session_.CurrentTerrain), saved);
 }
 
 TEST_F(MainWindow, TakesABackupAndComesBackToIt) {

@@ -118,6 +118,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     QApplication application(argc, argv);
+    QApplication::setApplicationVersion(QB_VERSION);
     try {
         quillbrand::TakeAll(argv[1], argv[2], argc > 3 && std::string(argv[3]) == "dark");
     } catch (const quillbrand::Fault& fault) {

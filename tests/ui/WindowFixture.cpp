@@ -73,15 +73,26 @@ bool WindowFixture::StartWindow(const std::string& startFile) {
     return window_->Form_Load();
 }
 
+void WindowFixture::WaitUntilReady() {
+    const auto* tools = Find<QToolBar>("Toolbar1");
+    EXPECT_TRUE(QTest::qWaitFor([tools] { return tools->isEnabled(); }));
+}
+
+/// As a user does: after a command the next heartbeat gives the controls back.
+void WindowFixture::ClickWhenReady(QWidget* control) {
+    ASSERT_TRUE(QTest::qWaitFor([control] { return control->isEnabled(); }));
+    QTest::mouseClick(control, Qt::LeftButton);
+}
+
 void WindowFixture::Click(const char* name) {
-    QTest::mouseClick(Find<QWidget>(name), Qt::LeftButton);
+    ClickWhenReady(Find<QWidget>(name));
 }
 
 void WindowFixture::ClickTool(const char* key) {
     auto* tools = window_->findChild<QToolBar*>("Toolbar1");
     auto* action = tools->findChild<QAction*>(QString::fromUtf8(key));
     ASSERT_NE(action, nullptr) << key;
-    QTest::mouseClick(tools->widgetForAction(action), Qt::LeftButton);
+    ClickWhenReady(tools->widgetForAction(action));
 }
 
 void WindowFixture::ShowTab(const char* caption) {
@@ -99,6 +110,7 @@ void WindowFixture::Produce(const char* seed) {
     text->clear();
     QTest::keyClicks(text, seed);
     Click("cmdGenerator");
+    WaitUntilReady();
 }
 
 std::vector<Height> WindowFixture::Heights() {

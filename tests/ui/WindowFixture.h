@@ -57,7 +57,12 @@ class WindowFixture : public ::testing::Test {
         return control;
     }
 
-    /// A real click in the middle of a control.
+    /// Until the window takes input again after a command.
+    void WaitUntilReady();
+
+    void ClickWhenReady(QWidget* control);
+
+    /// A real click in the middle of a control, once it is enabled.
     void Click(const char* name);
 
     /// Presses a button of the tool bar by its key.
