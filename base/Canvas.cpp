@@ -16,6 +16,8 @@ QColor ColorOf(Colour colour) {
 /// A place on the raster; far ones are limited, because lines are cut at the picture anyway.
 int Place(double pixel) {
     constexpr double far = 1 << 20;
+    if (std::isnan(pixel))
+        return -static_cast<int>(far);
     return static_cast<int>(std::floor(std::clamp(pixel, -far, far)));
 }
 

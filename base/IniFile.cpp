@@ -24,7 +24,8 @@ std::string WithoutQuotes(const std::string& text) {
 }  // namespace
 
 struct IniFile::Content {
-    CSimpleIniA ini{false, false, false};
+    /// Of keys that stand several times the first counts.
+    CSimpleIniA ini{false, true, false};
 };
 
 IniFile::IniFile() : content_(std::make_unique<Content>()) {
@@ -57,7 +58,7 @@ std::string IniFile::Get(const std::string& section, const std::string& key,
 }
 
 void IniFile::Set(const std::string& section, const std::string& key, const std::string& value) {
-    content_->ini.SetValue(section.c_str(), key.c_str(), value.c_str());
+    content_->ini.SetValue(section.c_str(), key.c_str(), value.c_str(), nullptr, true);
 }
 
 std::string IniFile::Text() const {

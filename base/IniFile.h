@@ -29,6 +29,7 @@ class IniFile {
     std::string Get(const std::string& section, const std::string& key,
                     const std::string& defaultValue = "", std::size_t buffer = 512) const;
 
+    /// Gives a key its one value; other keys and comments stay.
     void Set(const std::string& section, const std::string& key, const std::string& value);
 
     /// The file's text as Write() stores it.

@@ -32,7 +32,8 @@ struct Parser {
         app.add_flag("--quiet", options.quiet, "no progress");
         app.add_flag("--help", options.help, "this list");
         app.add_flag("--version", options.version, "the version");
-        app.add_option("COMMAND", options.commands);
+        // Commands are what is left: the parser would take words in brackets apart.
+        app.allow_extras();
     }
 };
 
@@ -59,6 +60,10 @@ Options ParseOptions(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         throw UsageError(error.what());
     }
+    parser.options.commands = parser.app.remaining();
+    for (const std::string& command : parser.options.commands)
+        if (command.starts_with('-'))
+            throw UsageError("unknown option " + command + "; --help lists all");
     if (parser.app.count("--home") > 0)
         RequireFolder(parser.options.home);
     if (parser.app.count("--random-seed") > 0)

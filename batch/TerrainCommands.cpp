@@ -7,6 +7,7 @@
 #include "batch/Batch.h"
 #include "batch/Command.h"
 #include "terrain/ScaleTerrainStep.h"
+#include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
 
@@ -85,10 +86,12 @@ std::vector<Key> PropertyKeys() {
 }
 
 void Set(Batch& batch, const Arguments& given) {
+    TerrainGuard guard(batch.session.CurrentTerrain);
     for (const Argument& argument : given.InOrder())
         for (const Property& property : properties)
             if (argument.key == property.name)
                 property.write(batch.session.CurrentTerrain, argument.value);
+    guard.Commit();
 }
 
 void Flat(Batch& batch, const Arguments& given) {

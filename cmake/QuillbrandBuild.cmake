@@ -30,7 +30,8 @@ endif()
 
 if(QB_SANITIZE)
   set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")  # assertions stay
-  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_compile_options(-fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
 

@@ -84,6 +84,17 @@ struct Relief {
     int enlarging;  ///< 0 where the layers were not enlarged
 };
 
+/// Throws Fault for settings that no control can give.
+void CheckSettings(int size, const GeneratorSettings& settings, int width) {
+    const auto sizes = GeneratorSizes();
+    if (size != width && std::find(sizes.begin(), sizes.end(), size) == sizes.end())
+        throw Fault("a terrain of " + std::to_string(size) +
+                    " intervals cannot be produced (128, "
+                    "256, 512, 1024 or 2048)");
+    if (settings.iterations < 1 || settings.structure < 0 || settings.structure > 5)
+        throw Fault("the generator needs 1 iteration at least and a structure from 0 to 5");
+}
+
 /// Everything up to the meeting with the existing heights.
 Relief MakeRelief(int size, const GeneratorSettings& settings, const GeneratorContext& context,
                   Host& host) {
@@ -91,6 +102,7 @@ Relief MakeRelief(int size, const GeneratorSettings& settings, const GeneratorCo
     host.Progress(0);
     host.Busy(true);
     const int width = settings.finerStructures ? 257 : 129;
+    CheckSettings(size, settings, width);
     if (!PerlinPathExists(context.sets.folder))
         throw Fault("Perlin Path not exists: " + context.sets.folder.string());
     if (settings.set < 0 || settings.set >= static_cast<int>(context.sets.rows.size()))

@@ -98,9 +98,11 @@ RowFunction FunctionOf(int mode) {
     }
 }
 
-[[noreturn]] void ReportRow(int y, int mode) {
+[[noreturn]] void ReportRow(int y, int mode, const std::int32_t* relief, int count, double factor) {
     const std::string row = " in row " + std::to_string(y);
-    if (mode == Division)
+    const bool byZero = std::any_of(relief, relief + count,
+                                    [factor](std::int32_t z) { return factor * z + 1.0 == 0; });
+    if (mode == Division && byZero)
         throw Fault("division by zero while the terrains are divided" + row);
     throw Fault("overflow: a combined height" + row + " does not fit into 32 bits");
 }
@@ -143,7 +145,7 @@ void OverlayRelief(clsTerrain& terrain, const SquareArray& relief, int size, int
     for (int y = 0; y <= last; ++y) {
         Height* const row = writer.Row(y).data();
         if (!combine(row, relief.Row(y), last + 1, factor))
-            ReportRow(y, mode);
+            ReportRow(y, mode, relief.Row(y), last + 1, factor);
         FindExtremes(row, last + 1, 1, 0, stored);
         host.Progress(PercentOf(y, size));
         host.Yield();

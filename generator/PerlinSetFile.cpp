@@ -10,6 +10,13 @@ namespace {
 
 constexpr std::size_t nameLength = 24;
 
+/// A height as the file stores it. Cells of the margin are limited: they do not count when a
+/// terrain is scaled, so that some may lie outside.
+std::int16_t Stored(const SquareArray& heights, int x, int y, int size) {
+    const bool inMargin = x > size || y > size;
+    return inMargin ? LimitTo16(heights(x, y)) : NarrowTo16(heights(x, y));
+}
+
 }  // namespace
 
 void SavePerlinSet(clsTerrain& terrain, const std::filesystem::path& path, const std::string& name,
@@ -33,7 +40,7 @@ void SavePerlinSet(clsTerrain& terrain, const std::filesystem::path& path, const
     // Only the margin can lie outside 16 bits: its cells do not count when a terrain is scaled.
     for (int y = 0; y <= upper; ++y)
         for (int x = 0; x <= upper; ++x)
-            writer.Put(LimitTo16(heights(x, y)));
+            writer.Put(Stored(heights, x, y, terrain.Size()));
     ReplaceFile(path, file);
     host.Busy(false);
 }

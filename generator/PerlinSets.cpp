@@ -16,7 +16,8 @@ std::vector<fs::path> Descriptions(const fs::path& folder) {
     std::vector<fs::path> found;
     std::error_code error;
     for (const auto& entry : fs::directory_iterator(folder, error))
-        if (EqualIgnoringCase(entry.path().extension().string(), ".ini"))
+        if (EqualIgnoringCase(entry.path().extension().string(), ".ini") &&
+            entry.is_regular_file(error))
             found.push_back(entry.path());
     std::sort(found.begin(), found.end(), [](const fs::path& a, const fs::path& b) {
         const std::string lowA = LowerCase(a.filename().string());

@@ -38,16 +38,14 @@ void NewTerrain(Session& session) {
 
 void ClearTerrain(Session& session, int points) {
     clsTerrain& terrain = session.CurrentTerrain;
-    const int heightScale = terrain.HeightScale();
-    const int baseHeight = terrain.BaseHeight();
+    terrain.Init(points);
     try {
         terrain.MinTU(-10);
         terrain.MaxTU(30);
-        terrain.Init(points);
-    } catch (...) {
-        terrain.HeightScale(heightScale);
-        terrain.BaseHeight(baseHeight);
-        throw;
+    } catch (const Fault&) {
+        // The old window lies too far away to be moved end by end.
+        terrain.HeightScale(40);
+        terrain.BaseHeight(10);
     }
     session.TerrainEmpty = true;
     session.CurrentFile = Session::noFile;
@@ -56,14 +54,8 @@ void ClearTerrain(Session& session, int points) {
 bool OpenTerrain(Session& session, const std::filesystem::path& path, Host& host) {
     host.Status("Load Terrainfile...");
     host.Yield();
-    const mTerLoad::Memory memory = session.LoadMemory;
-    bool isTer = false;
-    try {
-        isTer = mTerLoad::LoadTerrain(path, session.CurrentTerrain, session.LoadMemory, host);
-    } catch (...) {
-        session.LoadMemory = memory;
-        throw;
-    }
+    const bool isTer =
+        mTerLoad::LoadTerrain(path, session.CurrentTerrain, session.LoadMemory, host);
     session.CurrentFile = path.string();
     session.ViewZoom = 1.0;
     session.TerrainEmpty = false;

@@ -14,7 +14,8 @@ namespace quillbrand {
 /// "Neu": flat heights on the same grid. File name and height window stay.
 void NewTerrain(Session& session);
 
-/// "Löschen", answered with Yes: a flat grid of `points` per side, window -10..30, no file.
+/// "Löschen", answered with Yes: a flat grid of `points` per side, no file, and the ends -10
+/// and 30 written to the height window, the lower one first.
 void ClearTerrain(Session& session, int points);
 
 /// "Öffnen" of a TER file. Returns false for a file that is none; the heights then stay, but the

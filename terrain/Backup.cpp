@@ -10,9 +10,6 @@ namespace quillbrand {
 
 namespace {
 
-/// Beyond any grid that the program can hold in memory.
-constexpr std::size_t mostBytes = std::size_t{1} << 33;
-
 std::size_t Side(const TerHeader& header) {
     return static_cast<std::size_t>(header.Size) + 3;
 }
@@ -33,7 +30,12 @@ void SaveBackup(const clsTerrain& terrain, const std::filesystem::path& path) {
 }
 
 void LoadBackup(clsTerrain& terrain, const std::filesystem::path& path) {
-    DecodeBackup(terrain, ReadFile(path, mostBytes), path.string());
+    // As much as the header asks for, whatever else a longer old file left behind.
+    const Bytes head = ReadFile(path, TerHeader::bytes);
+    const TerHeader header = TerHeader::Read(ByteReader(head, path.string()));
+    const std::size_t side = header.Size < 0 ? 0 : Side(header);
+    DecodeBackup(terrain, ReadFile(path, TerHeader::bytes + sizeof(Height) * side * side),
+                 path.string());
 }
 
 void DecodeBackup(clsTerrain& terrain, std::span<const std::byte> bytes, const std::string& name) {
@@ -43,7 +45,8 @@ void DecodeBackup(clsTerrain& terrain, std::span<const std::byte> bytes, const s
         throw Fault(name + " is no backup of a terrain");
     if (header.Size < 0 || header.Size > INT16_MAX - 1)
         throw Fault(name + " says a size of " + std::to_string(header.Size) +
-                    " intervals per side, at least 0 is needed");
+                    " intervals per side (0 to 32766)");
+    CheckScales(header.ScaleZ, header.CRAD, name);
     const std::size_t side = Side(header);
     const auto cells = reader.At(TerHeader::bytes, sizeof(Height) * side * side);
 

@@ -1,8 +1,11 @@
 #include "terrain/TerHeader.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 #include <tuple>
+
+#include "base/NumberText.h"
 
 namespace quillbrand {
 
@@ -40,6 +43,12 @@ void TerHeader::FillTags() {
 
 void TerHeader::Append(ByteWriter& writer) const {
     std::apply([&writer](const auto&... field) { (writer.Put(field), ...); }, Fields(*this));
+}
+
+void CheckScales(float ScaleT, float CRAD, const std::string& name) {
+    if (!std::isfinite(ScaleT) || !std::isfinite(CRAD))
+        throw Fault(name + " is damaged: its metres per point (" + ShortestText(ScaleT) +
+                    ") or its planet radius (" + ShortestText(CRAD) + ") is no number");
 }
 
 TerHeader TerHeader::Read(const ByteReader& reader) {

@@ -2,7 +2,7 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
+#include <string>
 
 #include "base/ByteBuffer.h"
 
@@ -40,5 +40,9 @@ struct TerHeader {
     /// all there.
     static TerHeader Read(const ByteReader& reader);
 };
+
+/// Throws Fault, naming the file, unless both values of a file are numbers that can be reckoned
+/// with. ScaleT in metres, CRAD in kilometres.
+void CheckScales(float ScaleT, float CRAD, const std::string& name);
 
 }  // namespace quillbrand

@@ -37,15 +37,15 @@ class Chunks {
     std::string_view head_;
 };
 
-void CheckSize(int size, const std::string& name) {
+void CheckSize(int size, const char* chunk, const std::string& name) {
     if (size > TerFormat::largestSize)
         throw Fault("Terrain to big: " + name + " has " + std::to_string(size) +
                         " intervals per side, at most " + std::to_string(TerFormat::largestSize) +
                         " can be loaded",
                     "Load Terrain");
     if (size < 1)
-        throw Fault(name + " says a size of " + std::to_string(size) +
-                        " intervals per side, at least 1 is needed",
+        throw Fault(name + " says a size of " + std::to_string(size) + " intervals per side (" +
+                        chunk + "), at least 1 is needed",
                     "Load Terrain");
 }
 
@@ -60,17 +60,18 @@ TerContent ParseTer(std::span<const std::byte> bytes, const std::string& name) {
     const ByteReader reader(bytes, name);
     const Chunks chunks(reader, reader.TextAt(0, TerFormat::searched));
     const int size = chunks.Get<std::int16_t>("SIZE");
-    CheckSize(size, name);
+    CheckSize(size, "SIZE", name);
 
     TerContent content{};
     content.HeightScale = chunks.GetOr<std::int16_t>("ALTW", 0, 30);
     content.BaseHeight = chunks.GetOr<std::int16_t>("ALTW", 1, 5);
     content.points = chunks.Place("XPTS") > 0 ? chunks.Get<std::int16_t>("XPTS") : size + 1;
-    CheckSize(content.points - 1, name);
+    CheckSize(content.points - 1, "XPTS", name);
     content.ScaleT = chunks.GetOr<float>("SCAL", 2, 30.0f);
     if (chunks.Place("CRVM") > 0)
         content.CRVM = chunks.Get<std::int16_t>("CRVM");
     content.CRAD = chunks.GetOr<float>("CRAD", 0, 6370.0f);
+    CheckScales(content.ScaleT, content.CRAD, name);
 
     const std::size_t start = chunks.Place("ALTW") + TerFormat::samplesBehindAltw - 1;
     const auto points = static_cast<std::size_t>(content.points);

@@ -60,34 +60,34 @@ void clsTerrain::SetHeader(const TerHeader& header) {
     Size(header.Size);
 }
 
-int clsTerrain::MaxTU() {
-    maxTUCache_ = HeightWindow{header_.HeightScale, header_.BaseHeight}.High();
-    return maxTUCache_;
+int clsTerrain::MaxTU() const {
+    return Window().High();
 }
 
-int clsTerrain::MinTU() {
-    minTUCache_ = HeightWindow{header_.HeightScale, header_.BaseHeight}.Low();
-    return minTUCache_;
+int clsTerrain::MinTU() const {
+    return Window().Low();
+}
+
+HeightWindow clsTerrain::Window() const {
+    return {header_.HeightScale, header_.BaseHeight};
+}
+
+void clsTerrain::Store(const HeightWindow& window) {
+    const std::int16_t scale = NarrowTo16(window.scale);
+    header_.BaseHeight = NarrowTo16(window.base);
+    header_.HeightScale = scale;
 }
 
 void clsTerrain::MaxTU(std::int64_t value) {
-    HeightWindow window{header_.HeightScale, header_.BaseHeight};
-    const std::int64_t low = MinTU();
-    const std::int64_t high = window.SetHigh(NarrowTo16(value), low);
-    const std::int16_t cache = NarrowTo16(high);
-    header_.HeightScale = NarrowTo16(window.scale);
-    header_.BaseHeight = NarrowTo16(window.base);
-    maxTUCache_ = cache;
+    HeightWindow window = Window();
+    NarrowTo16(window.SetHigh(NarrowTo16(value), window.Low()));
+    Store(window);
 }
 
 void clsTerrain::MinTU(std::int64_t value) {
-    HeightWindow window{header_.HeightScale, header_.BaseHeight};
-    const std::int64_t high = MaxTU();
-    const std::int64_t low = window.SetLow(NarrowTo16(value), high);
-    const std::int16_t cache = NarrowTo16(low);
-    header_.HeightScale = NarrowTo16(window.scale);
-    header_.BaseHeight = NarrowTo16(window.base);
-    minTUCache_ = cache;
+    HeightWindow window = Window();
+    NarrowTo16(window.SetLow(NarrowTo16(value), window.High()));
+    Store(window);
 }
 
 /// MinTU and MaxTU written one after the other, but with what lies between them taken wide, so
@@ -97,12 +97,9 @@ void clsTerrain::SetWindow(double low, double high) {
     const auto limited = [](double altitude) {
         return static_cast<std::int64_t>(RoundHalfEven(std::clamp(altitude, -most, most)));
     };
-    HeightWindow window{header_.HeightScale, header_.BaseHeight};
+    HeightWindow window = Window();
     window.SetLow(limited(low), window.High());
-    const std::int16_t lowAsRead = window.Low();
-    const std::int64_t highAsWritten = window.SetHigh(limited(high), lowAsRead);
-    minTUCache_ = lowAsRead;
-    maxTUCache_ = LimitTo16(highAsWritten);
+    window.SetHigh(limited(high), window.Low());
     header_.HeightScale = LimitTo16(window.scale);
     header_.BaseHeight = LimitTo16(window.base);
 }

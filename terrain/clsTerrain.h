@@ -6,6 +6,7 @@
 
 #include "base/GridMemory.h"
 #include "base/RandomSource.h"
+#include "terrain/HeightWindow.h"
 #include "terrain/TerHeader.h"
 
 namespace quillbrand {
@@ -33,13 +34,13 @@ class clsTerrain {
     bool FixHeight() const { return fixHeight_; }
     void FixHeight(bool fix) { fixHeight_ = fix; }
 
-    /// The upper end of the height window in TU. A read is remembered: writing the other end starts
-    /// from it. Writing a value that is not above MinTU writes MinTU + 1.
-    int MaxTU();
+    /// The upper end of the height window in TU, limited to 16 bits. Writing it leaves MinTU where
+    /// it reads; a value that is not above MinTU writes MinTU + 1.
+    int MaxTU() const;
     void MaxTU(std::int64_t value);
 
     /// The lower end. Writing a value that is not below MaxTU writes MaxTU - 1.
-    int MinTU();
+    int MinTU() const;
     void MinTU(std::int64_t value);
 
     int BaseHeight() const { return header_.BaseHeight; }
@@ -165,6 +166,8 @@ class clsTerrain {
     /// mode 1 returns the maximum, 2 the minimum, any other 0; all make the extremes true.
     Height GetExtremes(int mode);
     void StretchTo(double factor, double centre);
+    HeightWindow Window() const;
+    void Store(const HeightWindow& window);
     void SetWindow(double low, double high);
     void RequireInGrid(int x1, int y1, int x2, int y2) const;
 
@@ -173,8 +176,6 @@ class clsTerrain {
     GridBuffer<Height> cells_;
     Height maxZ_ = 0;
     Height minZ_ = 0;
-    std::int16_t minTUCache_ = 0;
-    std::int16_t maxTUCache_ = 0;
     bool fixHeight_ = false;
 };
 

@@ -42,6 +42,8 @@ std::optional<Complaint> Attempt(const QString& command, const std::function<voi
         return Complaint{Lines(fault.what()), title.isEmpty() ? command : title};
     } catch (const std::bad_alloc&) {
         return Complaint{QStringLiteral("not enough memory"), command};
+    } catch (const std::exception& error) {
+        return Complaint{QString::fromUtf8(error.what()), command};
     }
 }
 

@@ -23,6 +23,13 @@ TEST(IniFile, ReadsFilesOfOtherSystemsWithoutRegardToCase) {
     EXPECT_EQ(file.Get("Other", "OptTer"), "");
 }
 
+TEST(IniFile, TakesTheFirstOfKeysThatStandSeveralTimes) {
+    IniFile file = Parsed("[s]\nk=1\nk=2\n[s]\nk=3\n");
+    EXPECT_EQ(file.Get("s", "k"), "1");
+    file.Set("s", "k", "4");
+    EXPECT_EQ(Parsed(file.Text()).Get("s", "k"), "4");
+}
+
 TEST(IniFile, CutsAValueToTheReadersBuffer) {
     const IniFile file = Parsed("[s]\nk=" + std::string(600, 'x') + "\n");
     EXPECT_EQ(file.Get("s", "k").size(), 511u);

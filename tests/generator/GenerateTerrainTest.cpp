@@ -200,6 +200,13 @@ TEST_F(Generator, FillsTheSmallestTargetFromTheFinerGridToo) {
     EXPECT_GT(terrain.Range(), 60000);
 }
 
+TEST_F(Generator, RefusesWhatNoControlCanGive) {
+    clsTerrain terrain = EmptyTerrain(301);
+    EXPECT_THROW(Generate(terrain, 300), Fault);
+    settings_.iterations = 0;
+    EXPECT_THROW(Generate(terrain, 128), Fault);
+}
+
 TEST_F(Generator, ReadsAChangedPictureAnew) {
     clsTerrain first = EmptyTerrain(129);
     Generate(first, 128);

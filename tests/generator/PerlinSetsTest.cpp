@@ -17,6 +17,7 @@ TEST(PerlinSets, StandInTheOrderOfTheirFileNamesAndEndAtAnEmptyName) {
     WriteText(folder / "Alpha.ini", "[set]\nname=Alpha\n");
     WriteText(folder / "gamma.ini", "[SET]\n");
     WriteText(folder / "omega.ini", "[SET]\nNAME=Omega\n");
+    std::filesystem::create_directory(folder / "aaa.ini");
     WriteText(folder / "readme.txt", "[SET]\nNAME=None\n");
     const PerlinSetTable table = ScanPerlinSets(folder.Path());
     ASSERT_EQ(table.rows.size(), 4u);
@@ -59,6 +60,19 @@ TEST(PerlinSetFile, HoldsTheScaledGridWithItsMarginAndACutName) {
     EXPECT_EQ(cell(2, 1), terrain.GetPoint(2, 1));
     EXPECT_GT(terrain.Range(), 60000);
     EXPECT_EQ(cell(5, 5), 0);
+}
+
+TEST(PerlinSetFile, LimitsTheMarginButNoHeightOfTheTerrain) {
+    const TemporaryFolder folder;
+    RecordingHost host;
+    clsTerrain terrain = GridFrom("-100 2 3 / 4 5 6 / 7 8 100");
+    terrain.SetPoint(4, 4, 100000);
+    SavePerlinSet(terrain, folder / "a.QPS", "margin", host);
+    EXPECT_EQ(TextOf(folder / "a.QPS").substr(61 + 2 * (13 * 4 + 4), 2), "\xff\x7f");
+    terrain.FixHeight(true);  // which puts the cell 1,1 back as it was
+    terrain.SetPoint(1, 1, 100000);
+    EXPECT_THROW(SavePerlinSet(terrain, folder / "b.QPS", "cell", host), Fault);
+    EXPECT_FALSE(std::filesystem::exists(folder / "b.QPS"));
 }
 
 }  // namespace

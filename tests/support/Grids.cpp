@@ -1,5 +1,6 @@
 #include "tests/support/Grids.h"
 
+#include <cmath>
 #include <sstream>
 
 namespace quillbrand {
@@ -35,8 +36,9 @@ std::string TextOf(const clsTerrain& terrain) {
 void FillWithChance(clsTerrain& terrain, Height low, Height high, RandomSource& chance) {
     for (int y = 0; y <= terrain.Size() + 2; ++y)
         for (int x = 0; x <= terrain.Size() + 2; ++x)
-            terrain.SetPoint(
-                x, y, low + static_cast<Height>(chance.Uniform() * (double(high) - low + 1)));
+            terrain.SetPoint(x, y,
+                             static_cast<Height>(std::floor(
+                                 low + chance.Uniform() * (static_cast<double>(high) - low + 1))));
     terrain.Range();
 }
 

@@ -142,7 +142,9 @@ TEST_F(TerFile, LeavesTheTerrainAloneWhenItIsDamaged) {
     SetShort(20, 0);
     expectFault("a size of 0");
     SetShort(28, -7);
-    expectFault("a size of -8");
+    expectFault("a size of -8 intervals per side (XPTS)");
+    text_.replace(52, 4, std::string("\0\0\xc0\x7f", 4));
+    expectFault("metres per point (nan)");
 }
 
 TEST_F(TerFile, IsNoneWithoutTheMagicAndTheRefineQuestionComesAllTheSame) {
