@@ -2,6 +2,7 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "base/Picture.h"
@@ -34,6 +35,7 @@ struct Session {
     int SaveType = 0;
     int ResizeMode = 0;
     int PaletteRow = 0;
+    std::optional<Colour> BackColor;  ///< of the window, where the settings tell one
     double ViewZoom = 1.0;
     int RandomSeedValue = 0;
     int ModifyMode = Add;

@@ -35,6 +35,8 @@ void ReadSettings(Session& session) {
     session.TerrainDirectory = settings.Get("Terrain", "Directory");
     session.ResizeMode = StartNumber(settings, "OptZoom", 2);
     session.PaletteRow = StartNumber(settings, "COLOR", paletteRows - 1);
+    if (!settings.Get("Start", "BackColor").empty())
+        session.BackColor = StartNumber(settings, "BackColor", 0xffffff);
     session.CurrentTerrain.Init(StartPoints(settings.Get("Start", "OptTer")));
 }
 

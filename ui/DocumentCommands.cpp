@@ -13,8 +13,13 @@ namespace {
 
 constexpr int typeTer = 1;
 
+/// The folder for the next start. That it cannot be written must not make a save fail.
 void RememberFolder(const Session& session) {
-    vbConfig::WriteIni(session, "Terrain", "Directory", session.TerrainDirectory.string());
+    try {
+        vbConfig::WriteIni(session, "Terrain", "Directory", session.TerrainDirectory.string());
+    } catch (const Fault&) {
+        return;
+    }
 }
 
 }  // namespace
@@ -62,21 +67,30 @@ bool DocumentCommands::Open(const std::filesystem::path& path) {
     return true;
 }
 
-void DocumentCommands::Speichern() {
+bool DocumentCommands::RefuseEmpty() {
+    if (!workplace_.TheSession().TerrainEmpty)
+        return false;
+    TellUser(workplace_.Window(), QStringLiteral("Terrain empty !"), QStringLiteral("Save"));
+    return true;
+}
+
+bool DocumentCommands::Speichern() {
     Session& session = workplace_.TheSession();
-    if (session.TerrainEmpty)
-        throw Fault("Terrain empty !", "Save");
+    if (RefuseEmpty())
+        return false;
     if (session.CurrentFile != Session::noFile)
         SaveCurrentFile(session, workplace_.TheHost());
     else
         FileSave(0);
     session.TerrainSaved = true;
+    return true;
 }
 
-void DocumentCommands::SpeichernAls() {
-    if (workplace_.TheSession().TerrainEmpty)
-        throw Fault("Terrain empty !", "Save");
+bool DocumentCommands::SpeichernAls() {
+    if (RefuseEmpty())
+        return false;
     FileSave(0);
+    return true;
 }
 
 bool DocumentCommands::FileSave(int type) {
@@ -90,21 +104,22 @@ bool DocumentCommands::FileSave(int type) {
     }
     if (session.SaveType != typeTer)
         return false;
+    host.Busy(true);
+    host.Status("Save.....");
+    host.Yield();
     const auto chosen =
         ChooseToSave(workplace_.Window(), {.title = QStringLiteral("Terrain save ..."),
                                            .filter = QStringLiteral("Terrainfiles|*.ter"),
                                            .defaultExtension = QStringLiteral("ter"),
                                            .startFolder = session.TerrainDirectory,
                                            .fileName = {}});
-    if (!chosen) {
-        RememberFolder(session);
-        return false;
-    }
-    host.Busy(true);
-    host.Status("Save.....");
-    SaveTerrain(session, chosen->path, true, host);
-    session.TerrainDirectory = chosen->path.parent_path();
+    if (chosen)
+        session.TerrainDirectory = chosen->path.parent_path();
     RememberFolder(session);
+    host.Busy(false);
+    if (!chosen)
+        return false;
+    SaveTerrain(session, chosen->path, true, host);
     host.ActualScreen();
     return true;
 }
@@ -114,15 +129,20 @@ void DocumentCommands::Backup() {
     BackupTerrain(session, BackupPath(session));
 }
 
-void DocumentCommands::Restore() {
+bool DocumentCommands::Restore() {
     Session& session = workplace_.TheSession();
-    if (!session.BackupExists)
-        throw Fault("Backup empty ! Use the Button BACKUP for protection of the terrain !",
-                    "Restore Terrain");
+    if (!session.BackupExists) {
+        TellUser(workplace_.Window(),
+                 QStringLiteral("Backup empty ! Use the Button BACKUP for protection of the "
+                                "terrain !"),
+                 QStringLiteral("Restore Terrain"));
+        return false;
+    }
     RestoreTerrain(session, BackupPath(session));
     workplace_.ResizePicture();
     workplace_.TheHost().ActualScreen();
     workplace_.RebuildPicture();
+    return true;
 }
 
 bool DocumentCommands::MayExit() {

@@ -12,27 +12,32 @@ class DocumentCommands {
   public:
     explicit DocumentCommands(Workplace& workplace) : workplace_(workplace) {}
 
+    /// Flat heights after a question, with file name and window kept, or with both forgotten.
     void Neu();
     void Loeschen();
 
-    /// Both return false where the user cancelled: nothing further happens then.
+    /// Each of these returns false where the command ended early: cancelled, or with a message.
     bool Oeffnen();
     bool Open(const std::filesystem::path& path);
 
-    void Speichern();
-    void SpeichernAls();
+    /// Under the document's name, or as FileSave where it has none; counts as saved even when that
+    /// was cancelled.
+    bool Speichern();
+    bool SpeichernAls();
 
     /// Asks for a type unless `type` fixes it, and for a file. True when a file was written.
     bool FileSave(int type);
 
+    /// To and from the session's one backup slot.
     void Backup();
-    void Restore();
+    bool Restore();
 
     /// The question at the exit. False when the program must go on.
     bool MayExit();
 
   private:
     bool AskToClear();
+    bool RefuseEmpty();
     void ShowTerrain(double zoomFactor);
 
     Workplace& workplace_;

@@ -69,16 +69,19 @@ QWidget* EditPanel::BuildInfoFrame() {
     auto* frame = MakeFrame("Info");
     auto* layout = new QHBoxLayout(frame);
     layout->setSpacing(gap);
-    auto* Picture2 = Disabled(Named(new PictureBox, "Picture2", "taken over or adjusted height"));
-    Picture2->setFixedSize(swatchSide, swatchSide);
-    Picture2->SetBackColor(QColor(128, 128, 128));
-    layout->addWidget(Picture2);
+    Picture2_ = Disabled(Named(new PictureBox, "Picture2", "taken over or adjusted height"));
+    Picture2_->setFixedSize(swatchSide, swatchSide);
+    layout->addWidget(Picture2_);
     layout->addWidget(MakeReading("lblPickHeigh", noReading));
     layout->addStretch();
     layout->addWidget(Disabled(MakeCheck(
         "chkPick", "Pick", "if active, the height of the terrain taken over with mouse-click")));
     layout->addWidget(Disabled(MakeCheck("chkEditSnap", "Snap", "snapping into place - ")));
     return frame;
+}
+
+void EditPanel::SetSwatch(QColor colour) {
+    Picture2_->SetBackColor(colour);
 }
 
 QWidget* EditPanel::BuildPenFrame() {

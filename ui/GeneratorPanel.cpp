@@ -2,11 +2,8 @@
 
 #include <QHBoxLayout>
 #include <QListWidget>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include "base/NumberText.h"
-#include "base/Numbers.h"
 #include "shell/GeneratorCommands.h"
 #include "ui/Controls.h"
 #include "ui/FileDialogs.h"

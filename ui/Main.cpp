@@ -8,5 +8,9 @@ int main(int argc, char** argv) {
         std::fputs(arguments.answer.c_str(), stdout);
         return 0;
     }
-    return quillbrand::RunEditor(argc, argv, arguments);
+    if (!quillbrand::HasDisplay()) {
+        std::fputs("quillbrand: there is no display to open a window on\n", stderr);
+        return 1;
+    }
+    return quillbrand::RunEditor(argc, argv);
 }

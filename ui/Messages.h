@@ -25,7 +25,7 @@ void WarnUser(QWidget* parent, const QString& text, const QString& title);
 bool RunCommand(QWidget* parent, Host& host, const QString& command,
                 const std::function<void()>& action);
 
-/// The same before there is a window and a host.
+/// The same where there is no window and no host; false after a fault.
 bool RunStart(const QString& command, const std::function<void()>& action);
 
 }  // namespace quillbrand

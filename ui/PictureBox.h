@@ -25,6 +25,7 @@ class PictureBox : public QWidget {
     void SetBackColor(QColor colour);
 
   signals:
+    /// In the units that were set, whatever buttons are down.
     void MouseMove(double x, double y);
     void Clicked();
     void DoubleClicked();

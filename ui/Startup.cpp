@@ -2,9 +2,9 @@
 
 #include <QApplication>
 
-#include "base/Fault.h"
 #include "shell/ProgramFolder.h"
 #include "shell/SubMain.h"
+#include "shell/TerrainCommands.h"
 #include "ui/Messages.h"
 #include "ui/Theme.h"
 #include "ui/WindowHost.h"
@@ -21,6 +21,18 @@ constexpr auto help =
     "  --help      this text\n"
     "  --version   the version\n";
 
+/// Where all else fails to catch what ends a command, the event that it came from ends.
+class Application : public QApplication {
+  public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        bool handled = false;
+        RunStart(applicationName(), [&] { handled = QApplication::notify(receiver, event); });
+        return handled;
+    }
+};
+
 }  // namespace
 
 StartArguments ParseArguments(int argc, char** argv) {
@@ -32,14 +44,22 @@ StartArguments ParseArguments(int argc, char** argv) {
         else if (word == "--version")
             arguments.answer = "quillbrand " QB_VERSION "\n";
         else
-            // The whole command line is one path, blanks included.
             arguments.file += (arguments.file.empty() ? "" : " ") + word;
     }
     return arguments;
 }
 
-int RunEditor(int& argc, char** argv, const StartArguments& arguments) {
-    QApplication application(argc, argv);
+bool HasDisplay() {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (qEnvironmentVariableIsSet(name))
+            return true;
+    return false;
+}
+
+int RunEditor(int& argc, char** argv) {
+    Application application(argc, argv);
+    // Now without the options that belong to the toolkit.
+    const StartArguments arguments = ParseArguments(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillbrand"));
     QApplication::setApplicationVersion(QStringLiteral(QB_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("quillbrand"));
@@ -58,8 +78,10 @@ int RunEditor(int& argc, char** argv, const StartArguments& arguments) {
     window.show();
     frmAbout splash(&window);
     splash.ShowAsSplash();
-    if (!window.Form_Load())
+    if (!window.Form_Load()) {
+        RemoveBackup(session);
         return 1;
+    }
     return QApplication::exec();
 }
 

@@ -10,10 +10,13 @@ struct StartArguments {
     std::string answer;  ///< printed instead of starting (--help, --version), or ""
 };
 
-/// Needs no display.
+/// Needs no display. Words that are no option make one path together, blanks included.
 StartArguments ParseArguments(int argc, char** argv);
 
+/// Whether there is anything to open a window on.
+bool HasDisplay();
+
 /// Runs the editor to its end; returns the exit status.
-int RunEditor(int& argc, char** argv, const StartArguments& arguments);
+int RunEditor(int& argc, char** argv);
 
 }  // namespace quillbrand

@@ -13,6 +13,7 @@ class Toolbar1 : public QToolBar {
   public:
     explicit Toolbar1(QWidget* parent = nullptr);
 
+    /// The button of a key, which must exist.
     QAction* Button(const QString& key) const;
 
     /// Buttons whose commands are not built yet stay disabled whatever is asked.
@@ -22,6 +23,7 @@ class Toolbar1 : public QToolBar {
     void TintIcons();
 
   signals:
+    /// A button was pressed, by mouse or by its shortcut.
     void ButtonClick(const QString& key);
 
   private:

@@ -32,6 +32,7 @@ QSlider* MakeViewSlider(const char* name, Qt::Orientation direction, const char*
     slider->setRange(1, 255);
     // The upper end of the slider is the upper row of the picture.
     slider->setInvertedAppearance(direction == Qt::Vertical);
+    slider->setInvertedControls(direction == Qt::Vertical);
     return slider;
 }
 
@@ -57,8 +58,8 @@ ZViewPanel::ZViewPanel(Workplace& workplace, QWidget* parent)
 }
 
 void ZViewPanel::ConnectControls() {
-    connect(sldXView_, &QSlider::valueChanged, this, [this](int value) { ZView(value, 1); });
-    connect(SldYView_, &QSlider::valueChanged, this, [this](int value) { ZView(value, 0); });
+    connect(sldXView_, &QSlider::valueChanged, this, [this](int value) { Move(value, 1); });
+    connect(SldYView_, &QSlider::valueChanged, this, [this](int value) { Move(value, 0); });
     connect(chkRealViewZ_, &QCheckBox::clicked, this, &ZViewPanel::Reopen);
     connect(PicZView_, &PictureBox::Clicked, this, &ZViewPanel::Reopen);
     connect(PicZView_, &PictureBox::MouseMove, this, &ZViewPanel::ThumbnailMouseMove);
@@ -138,7 +139,13 @@ void ZViewPanel::SetAltitudes(const QString& low, const QString& high) {
     high_ = high;
 }
 
-bool ZViewPanel::Open(const Picture& plan) {
+void ZViewPanel::Move(int position, int axis) {
+    if (!RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Z-View"),
+                    [this, position, axis] { ZView(position, axis); }))
+        emit Leave();
+}
+
+void ZViewPanel::Open(const Picture& plan) {
     PicZView_->Raster() = plan;
     PicZView_->SetUnits(workplace_.TheSession().CurrentTerrain.Size());
     PicZView_->update();
@@ -148,7 +155,7 @@ bool ZViewPanel::Open(const Picture& plan) {
         const QSignalBlocker quiet(slider);
         slider->setRange(1, last);
     }
-    return ZView(sldXView_->value(), 1);
+    ZView(sldXView_->value(), 1);
 }
 
 void ZViewPanel::DrawColourBar() {
@@ -160,8 +167,7 @@ void ZViewPanel::DrawColourBar() {
     PicColor_->update();
 }
 
-bool ZViewPanel::ZView(int position, int axis) {
-    ZViewAxis_ = axis;
+void ZViewPanel::ZView(int position, int axis) {
     clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
     lblZhigh_->setText(high_ + QStringLiteral(" m"));
     lblZlow_->setText(low_ + QStringLiteral(" m"));
@@ -176,13 +182,12 @@ bool ZViewPanel::ZView(int position, int axis) {
     if (range == 0) {
         TellUser(workplace_.Window(), QStringLiteral("Terrain flat"), QStringLiteral("Z-view"));
         emit Leave();
-        return false;
+        return;
     }
     DrawSection(picture, terrain, section, range);
     frmZView_->Raster() = picture;
     frmZView_->update();
     lblViewFrom_->setText(axis == 0 ? QStringLiteral("X") : QStringLiteral("Y"));
-    return true;
 }
 
 }  // namespace quillbrand

@@ -21,8 +21,8 @@ class ZViewPanel : public QWidget {
     ZViewPanel(Workplace& workplace, QWidget* parent = nullptr);
 
     /// Shows the section that `sldXView` is at; `plan` becomes the thumbnail. The heights must be
-    /// stretched to the full range. Returns false, having said so, for a flat terrain.
-    bool Open(const Picture& plan);
+    /// stretched to the full range. A flat terrain is left again, with a message.
+    void Open(const Picture& plan);
 
     /// The ends of the height scale as the user sees them elsewhere, in metres.
     void SetAltitudes(const QString& low, const QString& high);
@@ -34,6 +34,7 @@ class ZViewPanel : public QWidget {
     /// The terrain is flat: back to the plan view.
     void Leave();
 
+    /// The mouse over the thumbnail, in grid units.
     void ThumbnailMouseMove(double x, double y);
 
   private:
@@ -45,7 +46,10 @@ class ZViewPanel : public QWidget {
     void DrawColourBar();
 
     /// Draws the section at a slider's position; `axis` 1 cuts a row, 0 a column.
-    bool ZView(int position, int axis);
+    void ZView(int position, int axis);
+
+    /// The same when a slider has moved.
+    void Move(int position, int axis);
 
     Workplace& workplace_;
     PictureBox* frmZView_;
@@ -61,7 +65,6 @@ class ZViewPanel : public QWidget {
     QLabel* lblColTblMin_;
     QString low_;
     QString high_;
-    int ZViewAxis_ = 1;
 };
 
 }  // namespace quillbrand

@@ -12,7 +12,7 @@ namespace quillbrand {
 
 namespace {
 
-constexpr int splashMs = 1200;
+constexpr int shownMs = 1400;
 constexpr int emblemSide = 112;
 
 QLabel* MakeLine(const QString& text, double scale, QFont::Weight weight = QFont::Normal) {
@@ -54,11 +54,15 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
 
 void frmAbout::ShowAsSplash() {
     setWindowFlag(Qt::FramelessWindowHint);
+    open();
+}
+
+void frmAbout::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
     auto* timer = new QTimer(this);
     timer->setSingleShot(true);
     connect(timer, &QTimer::timeout, this, &QDialog::accept);
-    timer->start(splashMs);
-    open();
+    timer->start(shownMs);
 }
 
 void frmAbout::mousePressEvent(QMouseEvent*) {

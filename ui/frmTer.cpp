@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QShortcut>
 #include <QStackedLayout>
 #include <QTabWidget>
 #include <QTimer>
@@ -96,7 +97,7 @@ void frmTer::BuildWindow() {
 QWidget* frmTer::BuildPictures() {
     pictures_ = new QWidget;
     pictures_->setObjectName(QStringLiteral("PictureArea"));
-    pictures_->setMinimumSize(320, 320);
+    pictures_->setMinimumSize(640, 480);
 
     auto* plan = new QWidget;
     plan->setAutoFillBackground(true);
@@ -107,6 +108,7 @@ QWidget* frmTer::BuildPictures() {
     planLayout->setContentsMargins(0, 0, 0, 0);
     Picture1_ = new PictureBox;
     Picture1_->setObjectName(QStringLiteral("Picture1"));
+    Picture1_->setCursor(Qt::CrossCursor);
     planLayout->addWidget(Picture1_, 0, Qt::AlignCenter);
 
     PicZ_ = new ZViewPanel(*this);
@@ -149,8 +151,7 @@ QWidget* frmTer::BuildInfoFrame() {
     InfoText_->setMinimumWidth(10);
     PB_ = Named(new QProgressBar, "PB", "Process announcement");
     PB_->setRange(0, 100);
-    PB_->setTextVisible(false);
-    PB_->setFixedHeight(12);
+    PB_->setFixedHeight(16);
     layout->addWidget(InfoText_);
     layout->addWidget(PB_);
     return frame;
@@ -176,10 +177,13 @@ void frmTer::ConnectParts() {
     connect(Timer1_, &QTimer::timeout, this, &frmTer::Timer1_Timer);
     connect(toolbar_, &Toolbar1::ButtonClick, this, &frmTer::Toolbar1_ButtonClick);
     connect(OptXYView_, &QRadioButton::clicked, this, &frmTer::ShowPlanView);
-    connect(optZView_, &QRadioButton::clicked, this, &frmTer::optZView_Click);
+    connect(optZView_, &QRadioButton::clicked, this, &frmTer::ShowZView);
     connect(Picture1_, &PictureBox::MouseMove, this, &frmTer::Picture1_MouseMove);
     connect(Picture1_, &PictureBox::DoubleClicked, this, &frmTer::Picture1_DblClick);
-    connect(PicZ_, &ZViewPanel::Reopen, this, &frmTer::optZView_Click);
+    connect(PicZ_, &ZViewPanel::Reopen, this, &frmTer::ShowZView);
+    auto* redraw = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    connect(redraw, &QShortcut::activated, this, &frmTer::Picture1_DblClick);
+    connect(SSTab1_, &QTabWidget::currentChanged, this, [this] { ShowSwatch(); });
     connect(PicZ_, &ZViewPanel::Leave, this, &frmTer::ShowPlanView);
     connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, this, &frmTer::Picture1_MouseMove);
 }
@@ -187,6 +191,11 @@ void frmTer::ConnectParts() {
 bool frmTer::Form_Load() {
     session_.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
+    if (session_.BackColor) {
+        QPalette colours = palette();
+        colours.setColor(QPalette::Window, ColorOf(*session_.BackColor));
+        setPalette(colours);
+    }
     loaded_ = true;
     ResizePicture();
     session_.TerrainEmpty = true;
@@ -200,6 +209,7 @@ bool frmTer::Form_Load() {
     }
     generatorPanel_->LoadPerlinList();
     Picture1_->SetBackColor(ColorOf(PaletteTable(128, session_.PaletteRow)));
+    ShowSwatch();
     if (!session_.StartFile.empty())
         OpenFile(session_.StartFile);
     return true;
@@ -262,13 +272,19 @@ void frmTer::ActualScreen() {
 void frmTer::EnableInput(bool enable) {
     if (enable == inputEnabled_)
         return;
-    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, Picture1_, PicZ_})
+    // Whoever works by keyboard goes on where the command was started.
+    if (!enable)
+        focusBefore_ = focusWidget();
+    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, Picture1_, PicZ_,
+                                                         OptXYView_, optZView_})
         part->setEnabled(enable);
+    if (enable && focusBefore_ != nullptr && focusWidget() == nullptr)
+        focusBefore_->setFocus();
     enable ? unsetCursor() : setCursor(Qt::WaitCursor);
     inputEnabled_ = enable;
 }
 
-/// Not before the next heartbeat only: events are let through earlier than that.
+/// At once, not at the next heartbeat: events may come through before it.
 void frmTer::KeepInputOut() {
     EnableInput(false);
 }
@@ -305,15 +321,15 @@ bool frmTer::RunButton(const QString& key) {
     else if (key == QStringLiteral("Öffnen"))
         return document_.Oeffnen();
     else if (key == QStringLiteral("Speichern"))
-        document_.Speichern();
+        return document_.Speichern();
     else if (key == QStringLiteral("SpeichernAls"))
-        document_.SpeichernAls();
+        return document_.SpeichernAls();
     else if (key == QStringLiteral("Löschen"))
         document_.Loeschen();
     else if (key == QStringLiteral("Backup"))
         document_.Backup();
     else if (key == QStringLiteral("Restore"))
-        document_.Restore();
+        return document_.Restore();
     else if (key == QStringLiteral("Hilfe"))
         frmAbout(this).exec();
     else if (key == QStringLiteral("Zoom in"))
@@ -330,11 +346,25 @@ void frmTer::CommonEnd() {
     PB_->setValue(0);
     session_.TerrainBusy = false;
     ActualScreen();
+    host_.Yield();
 }
 
 void frmTer::OpenFile(const std::filesystem::path& path) {
     RunCommand(this, host_, QStringLiteral("Open"), [&] { document_.Open(path); });
     CommonEnd();
+}
+
+void frmTer::ShowZView() {
+    if (session_.TerrainBusy) {
+        ShowPlanView();
+        return;
+    }
+    if (!RunCommand(this, host_, QStringLiteral("Z-View"), [this] { optZView_Click(); }))
+        ShowPlanView();
+}
+
+void frmTer::ShowSwatch() {
+    editPanel_->SetSwatch(ColorOf(PaletteTable(128, session_.PaletteRow)));
 }
 
 void frmTer::optZView_Click() {
@@ -360,6 +390,8 @@ void frmTer::Picture1_MouseMove(double x, double y) {
 }
 
 void frmTer::Picture1_DblClick() {
+    if (session_.TerrainBusy)
+        return;
     host_.Busy(true);
     host_.Status("Picture redraw...");
     host_.Yield();
@@ -372,15 +404,14 @@ void frmTer::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     if (!loaded_)
         return;
-    const bool inZView = views_->currentIndex() == 1;
     ResizePicture();
-    if (inZView) {
-        views_->setCurrentIndex(1);
-        optZView_->setChecked(true);
-    }
 }
 
 void frmTer::closeEvent(QCloseEvent* event) {
+    if (session_.TerrainBusy) {
+        event->ignore();
+        return;
+    }
     bool mayExit = false;
     RunCommand(this, host_, QStringLiteral("EXIT"), [&] { mayExit = document_.MayExit(); });
     session_.TerrainBusy = false;
@@ -405,8 +436,11 @@ void frmTer::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void frmTer::dropEvent(QDropEvent* event) {
-    if (const auto path = DraggedTerrain(event->mimeData()))
-        OpenFile(*path);
+    const auto path = DraggedTerrain(event->mimeData());
+    if (!path || session_.TerrainBusy)
+        return;
+    // Not within the drop: its sender would wait for the answer to a question.
+    QTimer::singleShot(0, this, [this, file = *path] { OpenFile(file); });
 }
 
 }  // namespace quillbrand

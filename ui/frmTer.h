@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <filesystem>
 
 #include "ui/DocumentCommands.h"
@@ -75,6 +76,8 @@ class frmTer : public QMainWindow, public Workplace {
     void Toolbar1_ButtonClick(const QString& key);
     bool RunButton(const QString& key);
     void CommonEnd();
+    void ShowZView();
+    void ShowSwatch();
     void optZView_Click();
     void Picture1_MouseMove(double x, double y);
     void Picture1_DblClick();
@@ -105,6 +108,7 @@ class frmTer : public QMainWindow, public Workplace {
     QTimer* Timer1_;
     bool loaded_ = false;
     bool inputEnabled_ = true;
+    QPointer<QWidget> focusBefore_;
 };
 
 }  // namespace quillbrand

@@ -179,7 +179,7 @@ TEST_F(MainWindow, OpensAFileNamedAtTheStartAndOneThatIsDropped) {
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window_.get(), &drop);
-    EXPECT_TRUE(TextOf(session_.CurrentTerrain) == saved);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return TextOf(session_.CurrentTerrain) == saved; }));
 }
 
 TEST_F(MainWindow, TakesABackupAndComesBackToIt) {
@@ -216,6 +216,40 @@ TEST_F(MainWindow, BeatsItsHeartByTheBusyFlag) {
     EXPECT_TRUE(Find<QWidget>("SSTab1")->isEnabled());
     EXPECT_EQ(Find<QLabel>("InfoText")->text(), "Ready");
     EXPECT_EQ(Find<QProgressBar>("PB")->value(), 0);
+}
+
+TEST_F(MainWindow, KeepsOutOfARunningCommand) {
+    ASSERT_TRUE(StartWindow());
+    Produce("121");
+    session_.CurrentTerrain.SetPoint(3, 3, 99999);
+    auto* start = Find<QAbstractButton>("cmdGenerator");
+    start->setFocus();
+    host_->Busy(true);
+    const auto before = Heights();
+    Find<QAbstractButton>("optZView")->click();
+    EXPECT_FALSE(Find<QWidget>("PicZ")->isVisible());
+    EXPECT_FALSE(window_->close());
+    QTest::keyClick(window_.get(), Qt::Key_F5);
+    EXPECT_TRUE(Heights() == before);
+    EXPECT_TRUE(session_.TerrainBusy);
+    host_->Busy(false);
+    WaitUntilReady();
+    EXPECT_EQ(window_->focusWidget(), start);
+}
+
+TEST_F(MainWindow, LivesWithAScaleThatLeavesEveryRange) {
+    ASSERT_TRUE(StartWindow());
+    Produce("131");
+    session_.CurrentTerrain.ScaleT(3e38f);
+    host_->ActualScreen();
+    auto* picture = Find<PictureBox>("Picture1");
+    QTest::mouseMove(picture, picture->rect().center());
+    EXPECT_EQ(Find<QLabel>("sBarPanel6")->text(), "?");
+    Find<QAbstractButton>("chkRealViewZ")->setChecked(true);
+    ModalUser user({});
+    Click("optZView");
+    Find<QSlider>("sldXView")->setValue(77);
+    EXPECT_FALSE(session_.TerrainBusy);
 }
 
 TEST_F(MainWindow, ZoomsWithinItsLimits) {
