@@ -3,12 +3,13 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QEventLoop>
 #include <QLabel>
 #include <QProgressBar>
 #include <QSlider>
 #include <QStyleFactory>
 #include <QTabWidget>
-#include <QTest>
+#include <QTimer>
 #include <cstdio>
 
 #include "base/Fault.h"
@@ -35,7 +36,9 @@ class Photographer {
     void Take(QWidget& widget, const QString& name) const {
         widget.show();
         // The heartbeat gives the controls back after a command.
-        QTest::qWait(250);
+        QEventLoop heartbeat;
+        QTimer::singleShot(250, &heartbeat, &QEventLoop::quit);
+        heartbeat.exec();
         const QString path = folder_ + '/' + name + suffix_ + ".png";
         if (!widget.grab().save(path))
             throw Fault("cannot write " + path.toStdString());
