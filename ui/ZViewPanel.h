@@ -18,7 +18,7 @@ class ZViewPanel : public QWidget {
     Q_OBJECT
 
   public:
-    ZViewPanel(Workplace& workplace, QWidget* parent = nullptr);
+    explicit ZViewPanel(Workplace& workplace, QWidget* parent = nullptr);
 
     /// Shows the section that `sldXView` is at; `plan` becomes the thumbnail. The heights must be
     /// stretched to the full range. A flat terrain is left again, with a message.
