@@ -37,7 +37,9 @@ class Photographer {
         widget.show();
         // The heartbeat gives the controls back after a command.
         QEventLoop heartbeat;
-        QTimer::singleShot(250, &heartbeat, &QEventLoop::quit);
+        QTimer wait;
+        QObject::connect(&wait, &QTimer::timeout, &heartbeat, &QEventLoop::quit);
+        wait.start(250);
         heartbeat.exec();
         const QString path = folder_ + '/' + name + suffix_ + ".png";
         if (!widget.grab().save(path))

@@ -336,7 +336,8 @@ void frmTer::dropEvent(QDropEvent* event) {
     if (!path || session_.TerrainBusy)
         return;
     // Not within the drop: its sender would wait for the answer to a question.
-    QTimer::singleShot(0, this, [this, file = *path] { OpenFile(file); });
+    QMetaObject::invokeMethod(
+        this, [this, file = *path] { OpenFile(file); }, Qt::QueuedConnection);
 }
 
 }  // namespace quillbrand

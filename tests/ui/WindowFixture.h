@@ -60,7 +60,7 @@ class WindowFixture : public ::testing::Test {
     /// Until the window takes input again after a command.
     void WaitUntilReady();
 
-    void ClickWhenReady(QWidget* control);
+    static void ClickWhenReady(QWidget* control);
 
     /// A real click in the middle of a control, once it is enabled.
     void Click(const char* name);
