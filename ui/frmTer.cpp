@@ -80,6 +80,9 @@ void frmTer::ConnectParts() {
     auto* redraw = new QShortcut(QKeySequence(Qt::Key_F5), this);
     connect(redraw, &QShortcut::activated, this, &frmTer::Picture1_DblClick);
     connect(SSTab1_, &QTabWidget::currentChanged, this, [this] { ShowSwatch(); });
+    openDropped_ = new QTimer(this);
+    openDropped_->setSingleShot(true);
+    connect(openDropped_, &QTimer::timeout, this, [this] { OpenFile(dropped_); });
     connect(PicZ_, &ZViewPanel::Leave, this, &frmTer::ShowPlanView);
     connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, this, &frmTer::Picture1_MouseMove);
 }
@@ -336,8 +339,8 @@ void frmTer::dropEvent(QDropEvent* event) {
     if (!path || session_.TerrainBusy)
         return;
     // Not within the drop: its sender would wait for the answer to a question.
-    QMetaObject::invokeMethod(
-        this, [this, file = *path] { OpenFile(file); }, Qt::QueuedConnection);
+    dropped_ = *path;
+    openDropped_->start(0);
 }
 
 }  // namespace quillbrand

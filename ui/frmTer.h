@@ -106,6 +106,8 @@ class frmTer : public QMainWindow, public Workplace {
     ObjectsPanel* objectsPanel_;
     StatusPanels* sBar_;
     QTimer* Timer1_;
+    QTimer* openDropped_;
+    std::filesystem::path dropped_;  ///< what openDropped_ opens
     bool loaded_ = false;
     bool inputEnabled_ = true;
     QPointer<QWidget> focusBefore_;
