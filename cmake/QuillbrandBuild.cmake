@@ -52,3 +52,11 @@ function(qb_library name)
   target_include_directories(qb_${name} PUBLIC "${CMAKE_SOURCE_DIR}")
   target_link_libraries(qb_${name} PUBLIC ${ARG_LINKS})
 endfunction()
+
+# qb_link_program_data(): links to what the programs need beside them, so that the ones of this
+# folder work uninstalled. Without QB_MAKE_DATA the links lead nowhere.
+function(qb_link_program_data)
+  foreach(name IN ITEMS PS erode0.flt Elevator.dat Quillbrand.ini)
+    file(CREATE_LINK "${QB_PROGRAM_FOLDER}/${name}" "${CMAKE_CURRENT_BINARY_DIR}/${name}" SYMBOLIC)
+  endforeach()
+endfunction()

@@ -3,16 +3,17 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
-#include <QSaveFile>
 #include <cstdio>
 #include <exception>
 #include <stdexcept>
 #include <string>
 
+#include "data/output/WriteFile.h"
 #include "data/perlin/NoisePicture.h"
 
 namespace {
 
+using quillbrand::WriteFile;
 using namespace quillbrand::perlin;
 
 /// Room for a window of 129 points.
@@ -44,20 +45,10 @@ const PerlinSet& ReadSet(const std::string& text) {
     return *set;
 }
 
-/// Writes the file whole or not at all.
-void WriteFile(const QDir& folder, const std::string& name, const std::string& content) {
-    QSaveFile file(folder.filePath(QString::fromStdString(name)));
-    const auto size = static_cast<qint64>(content.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), size) != size ||
-        !file.commit()) {
-        throw std::runtime_error("cannot write " + file.fileName().toStdString() + ": " +
-                                 file.errorString().toStdString());
-    }
-}
-
 void WriteSet(const QDir& folder, const PerlinSet& set, int side) {
     for (int number = 1; number <= kPictures; ++number) {
-        WriteFile(folder, PictureFile(set, number), EncodePng(MakeNoisePicture(set, number, side)));
+        WriteFile(folder, PictureFile(set, number),
+                  quillbrand::EncodePng(MakeNoisePicture(set, number, side)));
     }
     // Last, so that a set in the program's list has all its pictures.
     WriteFile(folder, std::string(set.file) + ".INI", DescribeSet(set));

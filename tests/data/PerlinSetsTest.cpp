@@ -32,7 +32,7 @@ struct Steps {
     double greatest;
 };
 
-Steps StepsOf(const NoisePicture& picture) {
+Steps StepsOf(const LevelPicture& picture) {
     const auto [low, high] = std::minmax_element(picture.levels.begin(), picture.levels.end());
     double sum = 0.0;
     int greatest = 0;
@@ -87,7 +87,7 @@ TEST(MakePerlinSets, NamesWhatIsWrongAndWritesNothing) {
 }
 
 TEST(NoisePicture, KeepsEveryLevelInGreenAndBlue) {
-    const NoisePicture made = MakeNoisePicture(PerlinSets()[0], 2, kSide);
+    const LevelPicture made = MakeNoisePicture(PerlinSets()[0], 2, kSide);
     const std::string png = EncodePng(made);
     const QImage read = QImage::fromData(reinterpret_cast<const uchar*>(png.data()),
                                          static_cast<int>(png.size()), "PNG");
@@ -111,7 +111,7 @@ TEST_P(EverySet, FillsItsRangesWithSmoothHeightsThatGetFiner) {
     double coarser = 0.0;
     for (int number = 1; number <= kPictures; ++number) {
         SCOPED_TRACE(PictureFile(set_, number));
-        const NoisePicture picture = MakeNoisePicture(set_, number, kSide);
+        const LevelPicture picture = MakeNoisePicture(set_, number, kSide);
         const auto [low, high] = std::minmax_element(picture.levels.begin(), picture.levels.end());
         const double range = 65535.0 * set_.ranges[static_cast<std::size_t>(number - 1)];
         EXPECT_NEAR(*high - *low, range, 1.0);
