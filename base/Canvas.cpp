@@ -49,7 +49,9 @@ void Canvas::Clear(Colour colour) {
 }
 
 void Canvas::Line(double x1, double y1, double x2, double y2, Colour colour) {
-    QPen pen(ColorOf(colour), std::max(drawWidth_, 1), Qt::SolidLine, Qt::FlatCap);
+    // A thin line with flat ends would lack its last pixel.
+    const auto ends = drawWidth_ > 1 ? Qt::FlatCap : Qt::SquareCap;
+    const QPen pen(ColorOf(colour), std::max(drawWidth_, 1), Qt::SolidLine, ends);
     painter_.setPen(pen);
     painter_.drawLine(PixelX(x1), PixelY(y1), PixelX(x2), PixelY(y2));
 }

@@ -4,7 +4,9 @@
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
+#include "base/Fault.h"
 #include "base/Files.h"
+#include "base/IniText.h"
 #include "base/Stdio.h"
 #include "base/Text.h"
 
@@ -26,11 +28,17 @@ std::string WithoutQuotes(const std::string& text) {
 struct IniFile::Content {
     /// Of keys that stand several times the first counts.
     CSimpleIniA ini{false, true, false};
+    std::string text;      ///< what `ini` was read from, byte by byte
+    std::string tail;      ///< what stands behind the first NUL, which nobody reads
+    std::string tooLarge;  ///< the file of which only the beginning was read, or nothing
+
+    void Read() {
+        ini.Reset();
+        ini.LoadData(text);
+    }
 };
 
-IniFile::IniFile() : content_(std::make_unique<Content>()) {
-    content_->ini.SetSpaces(false);
-}
+IniFile::IniFile() : content_(std::make_unique<Content>()) {}
 IniFile::~IniFile() = default;
 IniFile::IniFile(IniFile&&) noexcept = default;
 IniFile& IniFile::operator=(IniFile&&) noexcept = default;
@@ -38,15 +46,22 @@ IniFile& IniFile::operator=(IniFile&&) noexcept = default;
 IniFile IniFile::Parse(std::span<const std::byte> bytes) {
     IniFile file;
     std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    file.content_->ini.LoadData(
-        text.c_str(), text.find('\0') == std::string::npos ? text.size() : text.find('\0'));
+    const std::size_t end = std::min(text.find('\0'), text.size());
+    file.content_->tail = text.substr(end);
+    text.resize(end);
+    file.content_->text = std::move(text);
+    file.content_->Read();
     return file;
 }
 
 IniFile IniFile::Read(const std::filesystem::path& path) {
     if (!STDIO::FileExists(path))
         return {};
-    return Parse(ReadFile(path, mostBytes));
+    const Bytes bytes = ReadFile(path, mostBytes + 1);
+    IniFile file = Parse(bytes);
+    if (bytes.size() > mostBytes)
+        file.content_->tooLarge = path.string();
+    return file;
 }
 
 std::string IniFile::Get(const std::string& section, const std::string& key,
@@ -58,13 +73,21 @@ std::string IniFile::Get(const std::string& section, const std::string& key,
 }
 
 void IniFile::Set(const std::string& section, const std::string& key, const std::string& value) {
-    content_->ini.SetValue(section.c_str(), key.c_str(), value.c_str(), nullptr, true);
+    std::string stored = value.substr(0, value.find('\0'));
+    if (stored.find_first_of("\r\n") != std::string::npos)
+        throw Fault("a value with a line break cannot be stored under " + key + ": " + stored);
+    // One pair of quotes is lost on reading.
+    if (const std::string bare = TrimIni(stored); WithoutQuotes(bare) != bare)
+        stored = '"' + bare + '"';
+    SetIniValue(content_->text, section, key, stored);
+    content_->Read();
 }
 
 std::string IniFile::Text() const {
-    std::string text;
-    content_->ini.Save(text);
-    return text;
+    if (!content_->tooLarge.empty())
+        throw Fault("cannot change " + content_->tooLarge + ": with more than " +
+                    std::to_string(mostBytes) + " bytes it is no settings file");
+    return content_->text + content_->tail;
 }
 
 void IniFile::Write(const std::filesystem::path& path) const {

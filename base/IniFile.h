@@ -9,7 +9,8 @@
 namespace quillbrand {
 
 /// A text file of sections in square brackets with lines key=value. Sections and keys are compared
-/// without regard to case; comments stay when the file is written again.
+/// without regard to case. When the file is written again, every line that was not set is as
+/// before, whatever it holds.
 class IniFile {
   public:
     /// An empty file.
@@ -29,10 +30,12 @@ class IniFile {
     std::string Get(const std::string& section, const std::string& key,
                     const std::string& defaultValue = "", std::size_t buffer = 512) const;
 
-    /// Gives a key its one value; other keys and comments stay.
+    /// Gives a key its value: changes the first line that has the key, or adds one to the section.
+    /// Throws Fault for a value with a line break.
     void Set(const std::string& section, const std::string& key, const std::string& value);
 
-    /// The file's text as Write() stores it.
+    /// The file's text as Write() stores it. Throws Fault where the file that was read was too
+    /// large to be read whole.
     std::string Text() const;
 
     /// Replaces the file. Throws Fault.

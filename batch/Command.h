@@ -64,5 +64,7 @@ std::vector<Command> TerrainCommandTable();
 std::vector<Command> FileCommandTable();
 std::vector<Command> GeneratorCommandTable();
 std::vector<Command> EffectCommandTable();
+std::vector<Command> ElevatorCommandTable();
+std::vector<Command> PrintCommandTable();
 
 }  // namespace quillbrand

@@ -8,8 +8,8 @@ namespace quillbrand {
 const std::vector<Command>& AllCommands() {
     static const std::vector<Command> table = [] {
         std::vector<Command> all;
-        for (auto make :
-             {TerrainCommandTable, FileCommandTable, GeneratorCommandTable, EffectCommandTable}) {
+        for (auto make : {TerrainCommandTable, FileCommandTable, GeneratorCommandTable,
+                          EffectCommandTable, ElevatorCommandTable, PrintCommandTable}) {
             std::vector<Command> part = make();
             std::move(part.begin(), part.end(), std::back_inserter(all));
         }

@@ -8,10 +8,23 @@ namespace quillbrand {
 
 namespace {
 
+/// The answer of the dialog that natural erosion shows.
+ErosionSettings ErosionOf(const Arguments& given) {
+    return {.dropCount = given.Get<int>("drops"),
+            .dropWidth = given.Get<int>("width"),
+            .slideDepth = given.Get<int>("slide"),
+            .erosionDepth = given.Get<int>("erosion")};
+}
+
 void RunEffect(Batch& batch, const Arguments& given) {
-    StartEffect(batch.session, given.Get<int>("name"),
-                static_cast<float>(given.Get<double>("strength")), given.Get<int>("zmin"),
-                given.Get<int>("zmax"), batch.host);
+    StartEffect(batch.session,
+                {.code = given.Get<int>("name"),
+                 .strength = static_cast<float>(given.Get<double>("strength")),
+                 .zMin = given.Get<int>("zmin"),
+                 .zMax = given.Get<int>("zmax"),
+                 .seed = std::to_string(batch.session.RandomSeedValue),
+                 .startErosion = [&] { return ErosionOf(given); }},
+                batch.host);
 }
 
 std::vector<std::string_view> EffectCaptions() {

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <vector>
+#include <sstream>
 
 #include "base/NumberText.h"
 #include "base/Picture.h"
@@ -52,6 +52,29 @@ std::optional<Value> ReadYesNo(const std::string& text) {
     if (EqualIgnoringCase(text, "no"))
         return false;
     return std::nullopt;
+}
+
+std::optional<PicturePoint> ReadPoint(std::string_view text) {
+    const auto comma = text.find(',');
+    if (comma == std::string_view::npos)
+        return std::nullopt;
+    const auto x = ReadNumber(text.substr(0, comma));
+    const auto y = ReadNumber(text.substr(comma + 1));
+    if (!x || !y)
+        return std::nullopt;
+    return PicturePoint{*x, *y};
+}
+
+std::optional<Value> ReadPoints(const std::string& text) {
+    std::vector<PicturePoint> points;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        const auto point = ReadPoint(word);
+        if (!point)
+            return std::nullopt;
+        points.push_back(*point);
+    }
+    return points.empty() ? std::nullopt : std::optional<Value>(std::move(points));
 }
 
 /// Captions as they are compared.
@@ -112,6 +135,10 @@ KeyType Number(double low, double high) {
 
 KeyType YesNo() {
     return {"yes or no", ReadYesNo};
+}
+
+KeyType PointList() {
+    return {"points as \"x,y x,y ...\"", ReadPoints};
 }
 
 KeyType OneOf(std::span<const int> numbers) {

@@ -6,11 +6,19 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 namespace quillbrand {
 
-/// A checked value of a key: a switch, a whole number or choice, a number, a text.
-using Value = std::variant<bool, int, double, std::string>;
+/// A place on a picture, in its units.
+struct PicturePoint {
+    double x;
+    double y;
+};
+
+/// A checked value of a key: a switch, a whole number or choice, a number, a text, a list of
+/// places.
+using Value = std::variant<bool, int, double, std::string, std::vector<PicturePoint>>;
 
 /// What values a key takes. `read` returns nothing for a text that is not allowed.
 struct KeyType {
@@ -30,6 +38,7 @@ KeyType WholeNumber(int low, int high);
 KeyType Number();  ///< that a single float can hold
 KeyType Number(double low, double high);
 KeyType YesNo();
+KeyType PointList();  ///< one place or more, "x,y x,y ..."
 
 /// One of a few whole numbers.
 KeyType OneOf(std::span<const int> numbers);

@@ -1,7 +1,6 @@
 #include <array>
-#include <string>
+#include <cmath>
 
-#include "base/Fault.h"
 #include "effects/QBFilter.h"
 #include "terrain/ScaleTerrainStep.h"
 
@@ -10,27 +9,54 @@ namespace quillbrand::QBFilter {
 namespace {
 
 constexpr std::array effects = {
-    Effect{1, "Smooth", true},           Effect{2, "Noise", false},
-    Effect{3, "Invers ", false},         Effect{4, "Elevator shift", false},
-    Effect{5, "Erosion (River)", false}, Effect{6, "Invers gamma shift", false},
-    Effect{7, "Gamma shift", false},     Effect{8, "Sinus shift", false},
-    Effect{9, "Erosion (Rain)", true},   Effect{10, "Stretch", false},
-    Effect{11, "Optimized", true},       Effect{12, "Natural erosion (exp)", false},
+    Effect{1, "Smooth"},         Effect{2, "Noise"},           Effect{3, "Invers "},
+    Effect{4, "Elevator shift"}, Effect{5, "Erosion (River)"}, Effect{6, "Invers gamma shift"},
+    Effect{7, "Gamma shift"},    Effect{8, "Sinus shift"},     Effect{9, "Erosion (Rain)"},
+    Effect{10, "Stretch"},       Effect{11, "Optimized"},      Effect{12, "Natural erosion (exp)"},
 };
 
-void Run(int code, clsTerrain& terrain, float strength, const Area& area, Host& host) {
+/// For the effects that take no limits.
+constexpr Area everything{};
+
+void Run(int code, clsTerrain& terrain, float strength, const Area& area,
+         const Surroundings& surroundings, Host& host) {
     switch (code) {
-        case 1: {
-            float smoothing = strength + 2;
-            FilterSmooth(terrain, smoothing, area, host);
-            break;
-        }
+        case 1:
+            strength += 2;
+            return FilterSmooth(terrain, strength, area, host);
+        case 2:
+            return FilterNoise(terrain, strength, area, host);
+        case 3:
+            return FilterInvert(terrain, strength, area, host);
+        case 4:
+            FilterElevatorShift(terrain, strength, area, surroundings.elevator, host);
+            strength = 8;
+            return FilterSmooth(terrain, strength, area, host);
+        case 5:
+            surroundings.riverBed.ErodePictureName = RiverBed::standardPicture;
+            return FilterRiverErosion(terrain, strength, area, surroundings.riverBed, host);
+        case 6:
+            strength = static_cast<float>(std::sqrt(double{strength} + 1));
+            return FilterGammaShift(terrain, strength, everything, host);
+        case 7:
+            strength = static_cast<float>(1 / (double{strength} + 1));
+            return FilterGammaShift(terrain, strength, everything, host);
+        case 8:
+            strength = 1;
+            return FilterSinusShift(terrain, strength, everything, host);
+        case 10:
+            return FilterStretch(terrain, strength, everything, host);
         case 11:
             ScaleTerrainStep(terrain, host);
-            break;
+            return;
+        case 12: {
+            const Area wholeRange{area.extent, area.startX, area.startY};
+            return FilterNaturalErosion(terrain, strength, wholeRange, surroundings.startErosion,
+                                        host);
+        }
         default:
             // "Erosion (Rain)" has a place in the panel but nothing behind it.
-            break;
+            return;
     }
 }
 
@@ -40,15 +66,12 @@ std::span<const Effect> Effects() {
     return effects;
 }
 
-void ApplyEffect(int code, clsTerrain& terrain, float strength, const Area& area, Host& host) {
-    if (code >= 1 && code <= static_cast<int>(effects.size())) {
-        const Effect& effect = effects[static_cast<std::size_t>(code - 1)];
-        if (!effect.available)
-            throw Fault(std::string(effect.caption) + " is not available in this version",
-                        "Effects");
-    }
+void ApplyEffect(int code, clsTerrain& terrain, float strength, const Area& area,
+                 const Surroundings& surroundings, Host& host) {
+    Area given = area;
+    given.extent = area.extent.value_or(terrain.XPoints() + 10);
     host.Busy(true);
-    Run(code, terrain, strength, area, host);
+    Run(code, terrain, strength, given, surroundings, host);
     host.Busy(false);
 }
 

@@ -7,6 +7,7 @@
 #include "base/VectorClones.h"
 #include "effects/ColumnStrip.h"
 #include "effects/QBFilter.h"
+#include "effects/Square.h"
 #include "terrain/RowKernels.h"
 
 namespace quillbrand::QBFilter {
@@ -22,12 +23,6 @@ struct Neighbourhood {
     std::ptrdiff_t rows;
 };
 
-struct Limits {
-    Height zMin;
-    Height zMax;
-    bool Hold(Height h) const { return zMin < h && h < zMax; }
-};
-
 /// s / 5 rounded to nearest; a fifth is never half-way.
 std::int64_t RoundedFifth(std::int64_t s) {
     const std::int64_t shifted = s + 2;
@@ -36,9 +31,9 @@ std::int64_t RoundedFifth(std::int64_t s) {
 
 /// One point, by its place in a column. Serves where a column is its own neighbour and where
 /// heights are too large for the fast way.
-void SmoothPoint(const Neighbourhood& n, std::ptrdiff_t y, const Limits& limits, Extremes& stored) {
+void SmoothPoint(const Neighbourhood& n, std::ptrdiff_t y, const Area& area, Extremes& stored) {
     const Height h = n.centre[y];
-    if (!limits.Hold(h))
+    if (!area.Holds(h))
         return;
     const std::int64_t s =
         std::int64_t{n.left[y - 1]} + n.left[y + 1] + h + n.right[y - 1] + n.right[y + 1];
@@ -48,10 +43,10 @@ void SmoothPoint(const Neighbourhood& n, std::ptrdiff_t y, const Limits& limits,
     stored.high = std::max(stored.high, mean);
 }
 
-void SmoothColumnInOrder(const Neighbourhood& n, bool ascending, const Limits& limits,
+void SmoothColumnInOrder(const Neighbourhood& n, bool ascending, const Area& area,
                          Extremes& stored) {
     for (std::ptrdiff_t i = 0; i < n.rows; ++i)
-        SmoothPoint(n, ascending ? 1 + i : n.rows - i, limits, stored);
+        SmoothPoint(n, ascending ? 1 + i : n.rows - i, area, stored);
 }
 
 /// Heights within -narrow..narrow can be summed in 32 bits, and single floats give their s / 5 to
@@ -64,7 +59,9 @@ template <bool limited>
 [[gnu::always_inline]] inline void SmoothPoints(const Height* __restrict left,
                                                 Height* __restrict centre,
                                                 const Height* __restrict right, std::ptrdiff_t rows,
-                                                Limits limits, Extremes& stored) {
+                                                const Area& area, Extremes& stored) {
+    const Height zMin = area.zMin;
+    const Height zMax = area.zMax;
     Height low = stored.low;
     Height high = stored.high;
     for (std::ptrdiff_t y = 1; y <= rows; ++y) {
@@ -72,8 +69,7 @@ template <bool limited>
         const Height s = left[y - 1] + left[y + 1] + h + right[y - 1] + right[y + 1];
         const auto mean = static_cast<Height>(std::rint(static_cast<float>(s) * 0.2f));
         // A mask of all or no bits keeps branches out of the loop.
-        const Height inside =
-            limited ? -static_cast<Height>((limits.zMin < h) & (h < limits.zMax)) : -1;
+        const Height inside = limited ? -static_cast<Height>((zMin < h) & (h < zMax)) : -1;
         centre[y] = (mean & inside) | (h & ~inside);
         low = std::min(low, (mean & inside) | (INT32_MAX & ~inside));
         high = std::max(high, (mean & inside) | (INT32_MIN & ~inside));
@@ -81,26 +77,14 @@ template <bool limited>
     stored = {low, high};
 }
 
-QB_VECTOR_CLONES void SmoothLimitedColumn(const Neighbourhood& n, const Limits& limits,
+QB_VECTOR_CLONES void SmoothLimitedColumn(const Neighbourhood& n, const Area& area,
                                           Extremes& stored) {
-    SmoothPoints<true>(n.left, n.centre, n.right, n.rows, limits, stored);
+    SmoothPoints<true>(n.left, n.centre, n.right, n.rows, area, stored);
 }
 
-QB_VECTOR_CLONES void SmoothWholeColumn(const Neighbourhood& n, const Limits& limits,
+QB_VECTOR_CLONES void SmoothWholeColumn(const Neighbourhood& n, const Area& area,
                                         Extremes& stored) {
-    SmoothPoints<false>(n.left, n.centre, n.right, n.rows, limits, stored);
-}
-
-/// The square of an effect, cut to the grid.
-struct Square {
-    int x0, x1, y0, y1;
-};
-
-Square CutToGrid(const Area& area, int last) {
-    const auto end = [&](int start) {
-        return static_cast<int>(std::min<std::int64_t>(std::int64_t{start} + area.extent, last));
-    };
-    return {std::max(area.startX, 0), end(area.startX), std::max(area.startY, 0), end(area.startY)};
+    SmoothPoints<false>(n.left, n.centre, n.right, n.rows, area, stored);
 }
 
 /// The sweeps over the square, strip by strip.
@@ -109,17 +93,17 @@ class Sweep {
     Sweep(clsTerrain& terrain, const Area& area, Host& host)
         : writer_(terrain),
           area_(area),
-          limits_{area.zMin, area.zMax},
+          extent_(area.extent.value()),
           host_(host),
           last_(terrain.Size() + 2),
-          square_(CutToGrid(area, last_)),
+          square_(CutToGrid(area, extent_, last_)),
           strip_(last_, square_.y0, square_.y1) {
-        if (!IsEmpty())
+        if (!square_.IsEmpty())
             MeasureHeights();
     }
 
     void Run(bool forward) {
-        if (IsEmpty())
+        if (square_.IsEmpty())
             return;
         forward_ = forward;
         const int columns = square_.x1 - square_.x0 + 1;
@@ -132,8 +116,6 @@ class Sweep {
     }
 
   private:
-    bool IsEmpty() const { return square_.x0 > square_.x1 || square_.y0 > square_.y1; }
-
     /// The extremes of all heights that a mean can take in; means never leave them.
     void MeasureHeights() {
         const int x = std::max(square_.x0 - 1, 0);
@@ -142,7 +124,7 @@ class Sweep {
         FindExtremes(writer_.Row(y).data() + x, std::min(square_.x1 + 1, last_) - x + 1,
                      std::min(square_.y1 + 1, last_) - y + 1, writer_.Stride(), found);
         isNarrow_ = found.low >= -narrow && found.high <= narrow;
-        isLimited_ = !(limits_.Hold(found.low) && limits_.Hold(found.high));
+        isLimited_ = !(area_.Holds(found.low) && area_.Holds(found.high));
     }
 
     void RunStrip(int first, int count) {
@@ -160,23 +142,23 @@ class Sweep {
                               strip_.Column(std::min(x + 1, last_)), strip_.Rows()};
         const bool seesItself = x == 0 || x == last_;
         if (seesItself || !isNarrow_)
-            SmoothColumnInOrder(n, forward_, limits_, stored_);
+            SmoothColumnInOrder(n, forward_, area_, stored_);
         else if (isLimited_)
-            SmoothLimitedColumn(n, limits_, stored_);
+            SmoothLimitedColumn(n, area_, stored_);
         else
-            SmoothWholeColumn(n, limits_, stored_);
+            SmoothWholeColumn(n, area_, stored_);
         strip_.RenewPadding(x);
     }
 
     void ReportColumn(int x) {
-        const double whole = double{1} * area_.extent + area_.startX;
+        const double whole = double{1} * extent_ + area_.startX;
         host_.Progress(forward_ ? PercentOf(x, whole, 50) : PercentOf(whole - x, whole, 50) + 50);
         host_.Yield();
     }
 
     HeightWriter writer_;
     const Area& area_;
-    Limits limits_;
+    int extent_;
     bool isNarrow_ = false;
     bool isLimited_ = true;
     bool forward_ = true;

@@ -6,15 +6,23 @@
 
 namespace quillbrand {
 
-void StartEffect(Session& session, int code, float strength, Height zMin, Height zMax, Host& host) {
+void StartEffect(Session& session, const EffectRequest& request, Host& host) {
     if (session.TerrainEmpty)
         throw Fault("Terrain empty", "Effects");
     host.Busy(true);
     clsTerrain& terrain = session.CurrentTerrain;
-    const QBFilter::Area area{.extent = terrain.XPoints(), .zMin = zMin, .zMax = zMax};
+    const QBFilter::Area area{
+        .extent = terrain.XPoints(), .zMin = request.zMin, .zMax = request.zMax};
+    QBFilter::RiverBed riverBed{.programFolder = session.ProgramFolder,
+                                .ErodePictureName = session.ErodePictureName,
+                                .seed = request.seed};
     TerrainGuard guard(terrain);
-    QBFilter::ApplyEffect(code, terrain, strength, area, host);
+    QBFilter::ApplyEffect(
+        request.code, terrain, request.strength, area,
+        {.elevator = session.elevator, .riverBed = riverBed, .startErosion = request.startErosion},
+        host);
     guard.Commit();
+    session.ErodePictureName = riverBed.ErodePictureName;
     host.Busy(false);
 }
 

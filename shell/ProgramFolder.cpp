@@ -55,18 +55,16 @@ void CopyWhole(const fs::path& source, const fs::path& target) {
     }
 }
 
-/// `PS` comes last: where it stands, everything does.
+/// Copies what is missing; what is there is the user's.
 void FillFolder(const fs::path& installed, const fs::path& folder) {
     fs::create_directories(folder);
     if (!IsFolder(installed))
         return;
     for (const auto& entry : fs::directory_iterator(installed)) {
         const fs::path name = entry.path().filename();
-        if (name != "PS" && !fs::exists(folder / name))
+        if (!fs::exists(folder / name))
             CopyWhole(entry.path(), folder / name);
     }
-    if (IsFolder(installed / "PS"))
-        CopyWhole(installed / "PS", folder / "PS");
 }
 
 fs::path ToldFolder(const fs::path& told) {
@@ -80,8 +78,7 @@ fs::path OwnFolderFilled(const ProgramFolderPlaces& places) {
     if (places.own.empty())
         throw Fault("there is no program folder: neither QUILLBRAND_HOME nor HOME is set");
     try {
-        if (!IsFolder(places.own / "PS"))
-            FillFolder(places.installed, places.own);
+        FillFolder(places.installed, places.own);
     } catch (const fs::filesystem_error& error) {
         throw Fault("cannot make the program folder " + places.own.string() + ": " +
                     error.code().message());

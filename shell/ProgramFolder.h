@@ -19,8 +19,8 @@ struct ProgramFolderPlaces {
 ProgramFolderPlaces PlacesOfThisProcess(const std::string& home);
 
 /// The folder that was told; else the executable's, if it holds `PS` and can be written to; else
-/// the user's own, which is made and filled as long as it holds no `PS`. Throws Fault for a told
-/// folder that does not exist, and for an own one that cannot be made.
+/// the user's own, which is made, and gets whatever of the installed data it does not hold. Throws
+/// Fault for a told folder that does not exist, and for an own one that cannot be made.
 std::filesystem::path FindProgramFolder(const ProgramFolderPlaces& places);
 
 }  // namespace quillbrand

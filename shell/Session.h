@@ -6,6 +6,8 @@
 #include <string>
 
 #include "base/Picture.h"
+#include "effects/Elevator.h"
+#include "effects/Gauss.h"
 #include "generator/GeneratorSettings.h"
 #include "generator/PerlinSets.h"
 #include "terrain/clsTerrain.h"
@@ -41,6 +43,9 @@ struct Session {
     int ModifyMode = Add;
     PerlinSetTable PerlinSets;
     std::array<int, 100> EffectStrength{};
+    std::string ErodePictureName;
+    Elevator elevator;      ///< ElevatorGrid, ElevatorSetFile, ElevatorSetIndex
+    GaussTable gaussTable;  ///< made at the start
     mTerLoad::Memory LoadMemory;
 
     Session() { EffectStrength.fill(1); }

@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Files.h"
 #include "base/IniFile.h"
 #include "base/NumberText.h"
 #include "base/Numbers.h"
 #include "base/Stdio.h"
 #include "editor/Palette.h"
+#include "effects/QBTools2.h"
 #include "shell/GeneratorCommands.h"
 
 namespace quillbrand {
@@ -37,6 +39,9 @@ void ReadSettings(Session& session) {
     session.PaletteRow = StartNumber(settings, "COLOR", paletteRows - 1);
     if (!settings.Get("Start", "BackColor").empty())
         session.BackColor = StartNumber(settings, "BackColor", 0xffffff);
+    const std::string setFile = settings.Get("ELEVATOR", "Name");
+    session.elevator.ElevatorSetFile =
+        FindInFolder(session.ProgramFolder, setFile.empty() ? Elevator::defaultSetFile : setFile);
     session.CurrentTerrain.Init(StartPoints(settings.Get("Start", "OptTer")));
 }
 
@@ -59,6 +64,10 @@ void SubMain(Session& session, const std::filesystem::path& programFolder,
     SetStartWindow(session.CurrentTerrain);
     if (STDIO::FileExists(startFile))
         session.StartFile = startFile;
+
+    QBTools2::LoadElevatorSet(session.elevator, 0);
+    session.elevator.ElevatorSetIndex = 0;
+    session.gaussTable = GaussTable(GaussTable::standardUpper);
 
     chance.ReseedFromClock();
     session.RandomSeedValue = NewSeed(chance);

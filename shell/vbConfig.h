@@ -11,7 +11,7 @@ namespace quillbrand::vbConfig {
 /// key does not exist. Throws Fault for a file that cannot be read.
 std::string ReadIni(const Session& session, const std::string& section, const std::string& key);
 
-/// Stores `value` under the key; comments and other keys of the file stay. Returns the value cut
+/// Stores `value` under the key; every other line of the file stays as it is. Returns the value cut
 /// and trimmed as ReadIni gives it. Throws Fault, with the old file untouched.
 std::string WriteIni(const Session& session, const std::string& section, const std::string& key,
                      const std::string& value);

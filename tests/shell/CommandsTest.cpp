@@ -76,7 +76,7 @@ TEST_F(Commands, LimitASeedTo32Bits) {
 TEST_F(Commands, RefuseAnEmptyTerrain) {
     session.TerrainEmpty = true;
     ExpectFaultChangesNothing([&] { SaveTerrain(session, folder / "a.ter", true, host); });
-    ExpectFaultChangesNothing([&] { StartEffect(session, 1, 9, -32768, 32768, host); });
+    ExpectFaultChangesNothing([&] { StartEffect(session, {.code = 1, .strength = 9}, host); });
     EXPECT_FALSE(std::filesystem::exists(folder / "a.ter"));
 }
 
@@ -155,11 +155,24 @@ TEST_F(Commands, GeneratorFileCarriesSeedAndModeOfTheSession) {
 
 TEST_F(Commands, EffectWorksBetweenItsLimitsOnly) {
     const auto cells = AllCells(session.CurrentTerrain);
-    StartEffect(session, 1, 5, 5000, 6000, host);
+    StartEffect(session, {.code = 1, .strength = 5, .zMin = 5000, .zMax = 6000}, host);
     EXPECT_EQ(AllCells(session.CurrentTerrain), cells);
-    StartEffect(session, 1, 5, -32768, 32768, host);
+    StartEffect(session, {.code = 1, .strength = 5}, host);
     EXPECT_NE(AllCells(session.CurrentTerrain), cells);
     EXPECT_FALSE(host.isBusy);
+}
+
+TEST_F(Commands, EffectsThatFailMidwayLeaveTheHeights) {
+    session.CurrentTerrain.Fill(700);
+    ExpectFaultChangesNothing([&] { StartEffect(session, {.code = 7, .strength = 1}, host); });
+    session.CurrentTerrain.SetPoint(3, 3, 200000);
+    session.elevator.grid.Arm(true);
+    ExpectFaultChangesNothing(
+        [&] { StartEffect(session, {.code = 4, .strength = 1, .zMin = 0, .zMax = 300000}, host); });
+    ExpectFaultChangesNothing([&] { StartEffect(session, {.code = 5, .strength = 1}, host); });
+    const auto fail = []() -> std::optional<ErosionSettings> { throw Fault("no dialog"); };
+    ExpectFaultChangesNothing(
+        [&] { StartEffect(session, {.code = 12, .strength = 1, .startErosion = fail}, host); });
 }
 
 }  // namespace

@@ -45,7 +45,7 @@ TEST_F(ProgramFolder, IsTheExecutablesWhenThatHoldsTheSets) {
     EXPECT_FALSE(fs::exists(places.own));
 }
 
-TEST_F(ProgramFolder, IsOtherwiseTheUsersOwnFilledOnce) {
+TEST_F(ProgramFolder, IsOtherwiseTheUsersOwnFilledWithWhatItLacks) {
     EXPECT_EQ(FindProgramFolder(places), places.own);
     EXPECT_EQ(TextOf(places.own / "PS/One.INI"), "one");
     EXPECT_EQ(TextOf(places.own / "erode0.flt"), "picture");
@@ -54,7 +54,7 @@ TEST_F(ProgramFolder, IsOtherwiseTheUsersOwnFilledOnce) {
     fs::remove(places.own / "erode0.flt");
     EXPECT_EQ(FindProgramFolder(places), places.own);
     EXPECT_EQ(TextOf(places.own / "PS/One.INI"), "mine");
-    EXPECT_FALSE(fs::exists(places.own / "erode0.flt"));
+    EXPECT_EQ(TextOf(places.own / "erode0.flt"), "picture");
 }
 
 TEST_F(ProgramFolder, KeepsTheUsersFilesWhenAFirstStartWasCutShort) {

@@ -38,6 +38,17 @@ TEST(SubMain, StartsFlatAndEmptyWithTheWindowFromMinus10To30) {
     EXPECT_TRUE(started.session.PerlinSets.rows.empty());
 }
 
+TEST(SubMain, StartsWithAStraightElevatorOverTheSetsOfTheSettings) {
+    const Started named("[elevator]\nNAME=sub\\curves.dat\n");
+    const Elevator& elevator = named.session.elevator;
+    EXPECT_EQ(elevator.ElevatorSetFile, named.folder / "sub/curves.dat");
+    EXPECT_EQ(elevator.grid(256, 0), 1);
+    EXPECT_FALSE(elevator.grid.IsArmed());
+    EXPECT_EQ(named.session.gaussTable.At(256, 256), 0.36f);
+    const Started unnamed("");
+    EXPECT_EQ(unnamed.session.elevator.ElevatorSetFile, unnamed.folder / "Elevator.dat");
+}
+
 TEST(SubMain, TakesTheGridFromTheSettings) {
     for (const auto& [optTer, points] : std::vector<std::pair<std::string, int>>{{"0", 129},
                                                                                  {" 2", 513},

@@ -22,11 +22,11 @@ std::int32_t Round(double value) {
 }  // namespace
 
 void FilterSmooth(clsTerrain& terrain, const QBFilter::Area& area) {
-    for (int x = area.startX; x <= area.startX + area.extent; ++x)
-        for (int y = area.startY; y <= area.startY + area.extent; ++y)
+    for (int x = area.startX; x <= area.startX + *area.extent; ++x)
+        for (int y = area.startY; y <= area.startY + *area.extent; ++y)
             SmoothPoint(terrain, x, y, area);
-    for (int x = area.startX + area.extent; x >= area.startX; --x)
-        for (int y = area.startY + area.extent; y >= area.startY; --y)
+    for (int x = area.startX + *area.extent; x >= area.startX; --x)
+        for (int y = area.startY + *area.extent; y >= area.startY; --y)
             SmoothPoint(terrain, x, y, area);
 }
 

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QImage>
+#include <array>
+#include <string>
+
+#include "base/Files.h"
+#include "shell/Session.h"
+
+class QPagedPaintDevice;
+
+namespace quillbrand {
+
+/// What the print dialog chooses.
+struct PrintSettings {
+    bool terrain = true;   ///< the picture
+    bool settings = true;  ///< the text
+    int copies = 1;        ///< none below 1
+};
+
+/// What a copy is to the device that is printed on.
+enum class CopyAs {
+    Job,  ///< a print job of its own, begun and ended on the device: for a printer
+    Page  ///< a page of the one document that the device makes
+};
+
+/// The lines of the settings text, from top to bottom.
+std::array<std::string, 14> PageLines(const Session& session);
+
+/// Prints the page on `device`, once for each copy. `picture` is the height picture as it stands
+/// on the screen; it takes half of the paper's shorter side, whatever its points. Paper and margins
+/// are the device's. Requires a QGuiApplication, for the fonts. Throws Fault when the device fails;
+/// the copies before that one are printed.
+void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Session& session,
+               const QImage& picture, const PrintSettings& settings);
+
+/// The same as a PDF file on A4 paper, a page for each copy; nothing without copies. A program
+/// without windows needs no QGuiApplication of its own for this.
+Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSettings& settings);
+
+}  // namespace quillbrand

@@ -1,0 +1,148 @@
+#include "shell/RegExt.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+#include "base/Fault.h"
+#include "base/Files.h"
+#include "base/IniFile.h"
+#include "base/Text.h"
+#include "shell/FileUndo.h"
+
+namespace quillbrand::RegExt {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr auto desktopTool = "update-desktop-database";
+constexpr int toolTime = 60'000;  // milliseconds
+
+/// A folder of the user, as the XDG base directory rules say; only absolute paths count.
+fs::path UserFolder(const char* variable, const char* belowHome) {
+    fs::path told = qgetenv(variable).toStdString();
+    if (told.is_absolute())
+        return told;
+    const fs::path home = qgetenv("HOME").toStdString();
+    if (!home.is_absolute())
+        throw Fault(std::string("neither ") + variable + " nor HOME is set");
+    return home / belowHome;
+}
+
+/// `text` with every character of `which` replaced by what `with` makes of it.
+template <typename With>
+std::string Replaced(const std::string& text, std::string_view which, With with) {
+    std::string result;
+    for (const char c : text)
+        result += which.find(c) == std::string_view::npos ? std::string(1, c) : with(c);
+    return result;
+}
+
+std::string Backslashed(const std::string& text, std::string_view which) {
+    return Replaced(text, which, [](char c) { return std::string("\\") + c; });
+}
+
+std::string XmlText(const std::string& text) {
+    return QString::fromStdString(text).toHtmlEscaped().toStdString();
+}
+
+std::string MimePackage(const std::string& extension, const std::string& description) {
+    return std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n") +
+           "<mime-info xmlns=\"http://www.freedesktop.org/standards/shared-mime-info\">\n"
+           "  <mime-type type=\"" +
+           terrainType + "\">\n    <comment>" + XmlText(description) +
+           "</comment>\n"
+           "    <magic priority=\"60\">\n"
+           "      <match type=\"string\" offset=\"0\" value=\"TERRAGENTERRAIN \"/>\n"
+           "    </magic>\n"
+           "    <glob pattern=\"*" +
+           XmlText(extension) + "\"/>\n  </mime-type>\n</mime-info>\n";
+}
+
+std::string DesktopEntry(const std::string& product, const std::string& command) {
+    return "[Desktop Entry]\n"
+           "Type=Application\n"
+           "Name=" +
+           product +
+           "\n"
+           "GenericName=Terrain Editor\n"
+           "Comment=Make and shape terrain heightfields\n"
+           "Exec=" +
+           ExecOf(command) +
+           "\n"
+           "Icon=" +
+           LowerCase(product) +
+           "\n"
+           "Terminal=false\n"
+           "Categories=Graphics;3DGraphics;\n"
+           "MimeType=" +
+           std::string(terrainType) + ";\n";
+}
+
+/// A tool of the desktop that makes its list of the files in `folder` anew. That there is none is
+/// well: such a desktop reads the files themselves.
+void RunTool(const char* name, const fs::path& folder) {
+    const QString tool = QStandardPaths::findExecutable(QString::fromLatin1(name));
+    if (tool.isEmpty())
+        return;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(tool, {QString::fromStdString(folder.string())});
+    const bool ended = process.waitForFinished(toolTime);
+    if (!ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        throw Fault(std::string(name) + " failed: " +
+                    (ended ? process.readAll().trimmed() : process.errorString()).toStdString());
+}
+
+void Register(FileUndo& undo, const std::string& extension, const std::string& description,
+              const std::string& product, const std::string& command) {
+    const fs::path data = UserFolder("XDG_DATA_HOME", ".local/share");
+    const fs::path config = UserFolder("XDG_CONFIG_HOME", ".config");
+    const std::string name = LowerCase(product);
+
+    undo.Write(data / "mime/packages" / (name + ".xml"), MimePackage(extension, description));
+    undo.Write(data / "applications" / (name + ".desktop"), DesktopEntry(product, command));
+    IniFile defaults = IniFile::Read(config / "mimeapps.list");
+    defaults.Set("Default Applications", terrainType, name + ".desktop");
+    undo.Write(config / "mimeapps.list", defaults.Text());
+    RunTool(desktopTool, data / "applications");
+    RunTool("update-mime-database", data / "mime");
+}
+
+/// After files were put back: a list that was made in between would name what is gone.
+void ForgetListed() {
+    try {
+        RunTool(desktopTool, UserFolder("XDG_DATA_HOME", ".local/share") / "applications");
+    } catch (const Fault&) {
+        return;
+    }
+}
+
+}  // namespace
+
+std::string ExecOf(const std::string& path) {
+    // The rules for desktop entries leave no way to write these.
+    if (path.empty() || path.find_first_of("=\r\n") != std::string::npos)
+        throw Fault("the desktop cannot start a program of this path: " + path);
+    std::string argument = '"' + Backslashed(path, "\"`$\\") + '"';
+    argument = Replaced(argument, "%", [](char) { return std::string("%%"); });
+    return Backslashed(argument, "\\") + " %f";
+}
+
+bool RegisterExtension(const std::string& extension, const std::string& description,
+                       const std::string& product, const std::string& command,
+                       std::string* reason) {
+    try {
+        FileUndo undo;
+        Register(undo, extension, description, product, command);
+        undo.Commit();
+        return true;
+    } catch (const std::exception& error) {
+        if (reason != nullptr)
+            *reason = error.what();
+        ForgetListed();
+        return false;
+    }
+}
+
+}  // namespace quillbrand::RegExt

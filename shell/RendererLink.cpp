@@ -1,0 +1,94 @@
+#include "shell/RendererLink.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <system_error>
+
+#include "base/Fault.h"
+#include "base/Files.h"
+#include "shell/TerrainCommands.h"
+#include "shell/vbConfig.h"
+#include "terrain/TerWriter.h"
+#include "terrain/TerrainGuard.h"
+
+namespace quillbrand {
+
+namespace {
+
+constexpr auto selectFolder = "Please select Folder of Terragen in 'Options'";
+constexpr auto startFailed = "ERROR  Terragen";
+constexpr auto defaultFile = "default.ter";
+
+void SaveFirst(Session& session, Host& host, const std::function<void()>& saveUnnamed) {
+    if (session.CurrentFile != Session::noFile) {
+        SaveCurrentFile(session, host);
+    } else {
+        saveUnnamed();
+        if (session.CurrentFile == Session::noFile) {
+            host.Busy(false);
+            throw Fault("Terragen not called", "Submit Terragen");
+        }
+    }
+    session.TerrainSaved = true;
+}
+
+/// Gives a document without a file one, so that there is something to hand over.
+void SaveDefault(Session& session, Host& host) {
+    if (session.CurrentFile != Session::noFile)
+        return;
+    host.Busy(false);
+    TerrainGuard guard(session.CurrentTerrain);
+    SaveT(session.CurrentTerrain, defaultFile, host, OldTail::Drop);
+    guard.Commit();
+    session.CurrentFile = defaultFile;
+}
+
+bool Start(const QString& program, const QStringList& arguments) {
+    return QProcess::startDetached(program, arguments);
+}
+
+}  // namespace
+
+void StartRenderer(const std::filesystem::path& folder, const std::string& file) {
+    const QStringList arguments = {QStringLiteral("-t"), QString::fromStdString(file)};
+    std::string windowsProgram;
+    for (const char* name : {"terragen.exe", "terragen"}) {
+        const std::filesystem::path path = FindInFolder(folder, name);
+        std::error_code ignored;
+        if (!std::filesystem::is_regular_file(path, ignored))
+            continue;
+        const QString program = QString::fromStdString(path.string());
+        // The system knows best what it can run.
+        if (Start(program, arguments))
+            return;
+        if (path.extension().empty())
+            continue;
+        const QString wine = QStandardPaths::findExecutable(QStringLiteral("wine"));
+        if (!wine.isEmpty() && Start(wine, QStringList(program) + arguments))
+            return;
+        windowsProgram = path.string();
+    }
+    if (!windowsProgram.empty())
+        throw Fault("the system does not run " + windowsProgram + ", and wine is not installed",
+                    startFailed);
+    throw Fault(selectFolder, startFailed);
+}
+
+void StartTerragen(Session& session, Host& host, const std::function<void()>& saveUnnamed) {
+    if (session.TerrainEmpty)
+        throw Fault("Terrain empty !", "Save");
+    const Answer answer =
+        host.Ask({"Terrain save, before start terragen", "Start Terragen", Buttons::YesNoCancel});
+    const std::string folder = vbConfig::ReadIni(session, "Terragen", "directory");
+    if (folder.empty())
+        throw Fault(selectFolder, "Start Terragen");
+    if (answer == Answer::Cancel)
+        return;
+    if (answer == Answer::Yes)
+        SaveFirst(session, host, saveUnnamed);
+    else
+        SaveDefault(session, host);
+    StartRenderer(folder, session.CurrentFile);
+}
+
+}  // namespace quillbrand

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "base/RandomSource.h"
+#include "effects/QBFilter.h"
+#include "terrain/ReliefPicture.h"
+
+/// The effects point by point in the order of their formulas, for areas with an extent. They must
+/// agree with the fast bodies cell by cell, running extremes included.
+namespace quillbrand::SlowTwins {
+
+enum class Curve { Stretch, Sinus, Gamma };
+
+/// `strength` is what the body is given; the scaling at its start is included.
+void TwoPasses(clsTerrain& terrain, Curve curve, float strength, const QBFilter::Area& area);
+
+void FilterInvert(clsTerrain& terrain);
+
+void FilterNoise(clsTerrain& terrain, float strength, const QBFilter::Area& area,
+                 RandomSource& chance);
+
+/// Requires: all heights within the limits have a column in the grid.
+void FilterElevatorShift(clsTerrain& terrain, const QBFilter::Area& area, const ElevatorGrid& grid);
+
+void FilterRiverErosion(clsTerrain& terrain, float strength, const QBFilter::Area& area,
+                        const Picture& picture, int offset);
+
+/// Without the scaling at its start.
+void FilterNaturalErosion(clsTerrain& terrain, const QBFilter::Area& area,
+                          const ErosionSettings& settings, RandomSource& chance);
+
+}  // namespace quillbrand::SlowTwins
