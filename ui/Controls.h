@@ -39,6 +39,12 @@ inline QLabel* MakeLabel(const char* text, QWidget* buddy) {
     return label;
 }
 
+/// Makes the Tab key visit the widgets, which share a window, in this order.
+inline void OrderTabs(const QList<QWidget*>& widgets) {
+    for (qsizetype i = 1; i < widgets.size(); ++i)
+        QWidget::setTabOrder(widgets[i - 1], widgets[i]);
+}
+
 /// A frame with a caption.
 inline QGroupBox* MakeFrame(const char* caption) {
     return new QGroupBox(QString::fromUtf8(caption));

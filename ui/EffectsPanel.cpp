@@ -12,6 +12,8 @@
 #include "ui/LabelledSlider.h"
 #include "ui/Messages.h"
 #include "ui/ShownNumber.h"
+#include "ui/dlgFltErosion.h"
+#include "ui/frmElevator.h"
 
 namespace quillbrand {
 
@@ -30,22 +32,14 @@ constexpr int sliderTop = 65536;
 
 constexpr int metresWidth = 76;
 
-QString ToolTipOf(int index, bool available) {
-    QStringList words;
-    if (index == naturalErosion)
-        words += QStringLiteral("experimental (BETA)");
-    if (!available)
-        words += QStringLiteral("not available in this version");
-    return words.join(QStringLiteral(", "));
-}
-
 QRadioButton* MakeOption(int index, const QBFilter::Effect& effect) {
     const auto caption = QString::fromUtf8(effect.caption.data(), qsizetype(effect.caption.size()));
     auto* option = new QRadioButton(caption);
     option->setObjectName(QStringLiteral("optFilter%1").arg(index));
     option->setProperty("Index", index);
-    option->setToolTip(ToolTipOf(index, effect.available));
-    option->setEnabled(effect.available && index != erosionRain);
+    if (index == naturalErosion)
+        option->setToolTip(QStringLiteral("experimental (BETA)"));
+    option->setEnabled(index != erosionRain);
     option->setChecked(index == 0);
     return option;
 }
@@ -72,6 +66,7 @@ QLineEdit* MakeMetres(const char* name, const char* text) {
 EffectsPanel::EffectsPanel(Workplace& workplace, QWidget* parent)
     : QWidget(parent), workplace_(workplace) {
     BuildControls();
+    OrderControls();
     ConnectControls();
 }
 
@@ -118,7 +113,6 @@ QLayout* EffectsPanel::BuildOptions() {
         cmdElevatorPar_ = MakeButton("cmdElevatorPar", "...");
         cmdElevatorPar_->setAccessibleName(QStringLiteral("Elevator curve"));
         cmdElevatorPar_->setFixedWidth(32);
-        cmdElevatorPar_->setEnabled(false);
         auto* row = new QHBoxLayout;
         row->addWidget(option);
         row->addWidget(cmdElevatorPar_);
@@ -151,6 +145,19 @@ QWidget* EffectsPanel::BuildElevatorParameter() {
     return frame;
 }
 
+/// As the eye goes: down the columns of options, then row by row.
+void EffectsPanel::OrderControls() {
+    QList<QWidget*> order;
+    for (int index = 0; index < optFilter_->buttons().size(); ++index) {
+        order += optFilter_->button(index);
+        if (index == elevatorShift)
+            order += cmdElevatorPar_;
+    }
+    order += {sldEffectFactor_, cmdZrangeReset_, sldZMin_,        txtZMin_,
+              sldZMax_,         txtZmax_,        cmdStartEffects_};
+    OrderTabs(order);
+}
+
 void EffectsPanel::ConnectControls() {
     for (QAbstractButton* option : optFilter_->buttons())
         connect(option, &QAbstractButton::clicked, this,
@@ -159,10 +166,15 @@ void EffectsPanel::ConnectControls() {
     connect(sldZMin_, &QSlider::valueChanged, this, &EffectsPanel::sldZMin_Change);
     connect(sldZMax_, &QSlider::valueChanged, this, &EffectsPanel::sldZMax_Change);
     connect(cmdZrangeReset_, &QPushButton::clicked, this, &EffectsPanel::cmdZrangeReset_Click);
-    connect(cmdStartEffects_, &QPushButton::clicked, this, [this] {
-        RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Effects"),
-                   [this] { cmdStartEffects_Click(); });
-    });
+    const auto onClick = [this](QPushButton* button, const QString& command,
+                                void (EffectsPanel::*handler)()) {
+        connect(button, &QPushButton::clicked, this, [this, command, handler] {
+            RunCommand(workplace_.Window(), workplace_.TheHost(), command,
+                       [this, handler] { (this->*handler)(); });
+        });
+    };
+    onClick(cmdElevatorPar_, QStringLiteral("Elevator shift"), &EffectsPanel::cmdElevatorPar_Click);
+    onClick(cmdStartEffects_, QStringLiteral("Effects"), &EffectsPanel::cmdStartEffects_Click);
 }
 
 void EffectsPanel::optFilter_Click(int index) {
@@ -204,6 +216,16 @@ void EffectsPanel::cmdZrangeReset_Click() {
     Refresh();
 }
 
+void EffectsPanel::cmdElevatorPar_Click() {
+    frmElevator(workplace_).Run();
+}
+
+std::optional<ErosionSettings> EffectsPanel::AskErosion() {
+    if (dlgFltErosion_ == nullptr)
+        dlgFltErosion_ = new dlgFltErosion(workplace_);
+    return dlgFltErosion_->Ask();
+}
+
 void EffectsPanel::cmdStartEffects_Click() {
     Session& session = workplace_.TheSession();
     if (session.TerrainEmpty) {
@@ -214,12 +236,27 @@ void EffectsPanel::cmdStartEffects_Click() {
     host.Busy(true);
     workplace_.ShowPlanView();
     const int code = SelectedEffect_ + 1;
-    StartEffect(session, code, static_cast<float>(session.EffectStrength.at(std::size_t(code))),
-                sldZMin_->value() - sliderZero, sldZMax_->value() - sliderZero, host);
-    workplace_.RebuildPicture();
-    host.Busy(false);
-    host.ActualScreen();
-    host.Yield();
+    const auto showTerrain = [&] {
+        workplace_.RebuildPicture();
+        host.Busy(false);
+        host.ActualScreen();
+        host.Yield();
+    };
+    try {
+        StartEffect(session,
+                    {.code = code,
+                     .strength = static_cast<float>(session.EffectStrength.at(std::size_t(code))),
+                     .zMin = sldZMin_->value() - sliderZero,
+                     .zMax = sldZMax_->value() - sliderZero,
+                     .seed = workplace_.SeedText(),
+                     .startErosion = [this] { return AskErosion(); }},
+                    host);
+    } catch (...) {
+        // Its fields may still tell of heights that were taken back.
+        showTerrain();
+        throw;
+    }
+    showTerrain();
 }
 
 }  // namespace quillbrand

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
+#include "effects/ErosionSettings.h"
 #include "ui/Workplace.h"
 
 class QButtonGroup;
@@ -10,6 +12,8 @@ class QPushButton;
 class QSlider;
 
 namespace quillbrand {
+
+class dlgFltErosion;
 
 /// The tab "Effects".
 ///
@@ -29,6 +33,7 @@ class EffectsPanel : public QWidget {
     QWidget* BuildFilters();
     QLayout* BuildOptions();
     QWidget* BuildElevatorParameter();
+    void OrderControls();
     void ConnectControls();
 
     void optFilter_Click(int index);
@@ -36,7 +41,9 @@ class EffectsPanel : public QWidget {
     void sldZMin_Change();
     void sldZMax_Change();
     void cmdZrangeReset_Click();
+    void cmdElevatorPar_Click();
     void cmdStartEffects_Click();
+    std::optional<ErosionSettings> AskErosion();
 
     Workplace& workplace_;
     int SelectedEffect_ = 0;
@@ -50,6 +57,7 @@ class EffectsPanel : public QWidget {
     QLineEdit* txtZmax_;
     QPushButton* cmdZrangeReset_;
     QPushButton* cmdStartEffects_;
+    dlgFltErosion* dlgFltErosion_ = nullptr;  ///< from its first use on, the window's own
 };
 
 }  // namespace quillbrand

@@ -35,6 +35,14 @@ std::optional<ChosenFile> Choose(QFileDialog& dialog, const FileRequest& request
 
 }  // namespace
 
+FileRequest SettingRequest(const QString& title, const std::filesystem::path& programFolder) {
+    return {.title = title,
+            .filter = QStringLiteral("Setting |*.par"),
+            .defaultExtension = QStringLiteral("par"),
+            .startFolder = programFolder,
+            .fileName = {}};
+}
+
 std::optional<ChosenFile> ChooseToOpen(QWidget* parent, const FileRequest& request) {
     QFileDialog dialog(parent);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);

@@ -17,6 +17,9 @@ struct FileRequest {
     QString fileName;
 };
 
+/// For a file of settings, which lies in the program folder unless the user says otherwise.
+FileRequest SettingRequest(const QString& title, const std::filesystem::path& programFolder);
+
 struct ChosenFile {
     std::filesystem::path path;
     int filterIndex;  ///< of the filter that the user left, from 1

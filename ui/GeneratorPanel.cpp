@@ -14,18 +14,6 @@
 
 namespace quillbrand {
 
-namespace {
-
-FileRequest SettingRequest(const Session& session, const QString& title) {
-    return {.title = title,
-            .filter = QStringLiteral("Setting |*.par"),
-            .defaultExtension = QStringLiteral("par"),
-            .startFolder = session.ProgramFolder,
-            .fileName = {}};
-}
-
-}  // namespace
-
 GeneratorPanel::GeneratorPanel(Workplace& workplace, QWidget* parent)
     : QWidget(parent), workplace_(workplace) {
     BuildControls();
@@ -127,6 +115,10 @@ void GeneratorPanel::ConnectControls() {
             [this](bool ticked) { cmdGenModify_->setEnabled(!ticked); });
 }
 
+std::string GeneratorPanel::SeedText() const {
+    return txtRandom_->text().toStdString();
+}
+
 void GeneratorPanel::LoadPerlinList() {
     lstPerlinSets_->clear();
     const PerlinSetTable& sets = workplace_.TheSession().PerlinSets;
@@ -151,7 +143,7 @@ GeneratorSettings GeneratorPanel::Settings() const {
     settings.height = sldGenHeigth_->value();
     settings.structure = sldStructure_->value();
     settings.roughness = roughness_->value();
-    settings.seed = txtRandom_->text().toStdString();
+    settings.seed = SeedText();
     settings.finerStructures = chkHighResolution_->isChecked();
     settings.clearTerrain = chkClearTerrain_->isChecked();
     return settings;
@@ -209,16 +201,16 @@ void GeneratorPanel::cmdGenModify_Click() {
 
 void GeneratorPanel::cmdGeneratorSaveSetting_Click() {
     const Session& session = workplace_.TheSession();
-    const auto chosen =
-        ChooseToSave(workplace_.Window(), SettingRequest(session, QStringLiteral("Save Setting")));
+    const auto chosen = ChooseToSave(
+        workplace_.Window(), SettingRequest(QStringLiteral("Save Setting"), session.ProgramFolder));
     if (chosen)
         SaveGeneratorSettings(chosen->path, Settings(), session.ModifyMode);
 }
 
 void GeneratorPanel::cmdGenLoadSetting_Click() {
     Session& session = workplace_.TheSession();
-    const auto chosen =
-        ChooseToOpen(workplace_.Window(), SettingRequest(session, QStringLiteral("Load Setting")));
+    const auto chosen = ChooseToOpen(
+        workplace_.Window(), SettingRequest(QStringLiteral("Load Setting"), session.ProgramFolder));
     if (!chosen)
         return;
     Show(LoadGenerator(session, chosen->path, lstPerlinSets_->currentRow()));

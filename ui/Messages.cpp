@@ -82,11 +82,15 @@ bool RunCommand(QWidget* parent, Host& host, const QString& command,
     return false;
 }
 
-bool RunStart(const QString& command, const std::function<void()>& action) {
-    const std::optional<Complaint> complaint = Attempt(command, action);
+bool RunStep(QWidget* parent, const QString& step, const std::function<void()>& action) {
+    const std::optional<Complaint> complaint = Attempt(step, action);
     if (complaint)
-        WarnUser(nullptr, complaint->text, complaint->title);
+        WarnUser(parent, complaint->text, complaint->title);
     return !complaint;
+}
+
+bool RunStart(const QString& command, const std::function<void()>& action) {
+    return RunStep(nullptr, command, action);
 }
 
 }  // namespace quillbrand

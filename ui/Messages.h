@@ -25,6 +25,9 @@ void WarnUser(QWidget* parent, const QString& text, const QString& title);
 bool RunCommand(QWidget* parent, Host& host, const QString& command,
                 const std::function<void()>& action);
 
+/// The same for a part of a command, which goes on after a fault: the busy flag is left alone.
+bool RunStep(QWidget* parent, const QString& step, const std::function<void()>& action);
+
 /// The same where there is no window and no host; false after a fault.
 bool RunStart(const QString& command, const std::function<void()>& action);
 

@@ -27,11 +27,20 @@ void PictureBox::paintEvent(QPaintEvent*) {
     painter.drawImage(rect(), raster_.Image());
 }
 
+QPointF PictureBox::InUnits(QPointF place) const {
+    if (units_ <= 0)
+        return place;
+    return {place.x() * units_ / width(), place.y() * units_ / height()};
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+    const QPointF place = InUnits(event->position());
+    emit MouseDown(place.x(), place.y(), event->button());
+}
+
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
-    const QPointF place = event->position();
-    const bool scaled = units_ > 0;
-    emit MouseMove(scaled ? place.x() * units_ / width() : place.x(),
-                   scaled ? place.y() * units_ / height() : place.y());
+    const QPointF place = InUnits(event->position());
+    emit MouseMove(place.x(), place.y(), event->buttons());
 }
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
@@ -39,7 +48,8 @@ void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
         emit Clicked();
 }
 
-void PictureBox::mouseDoubleClickEvent(QMouseEvent*) {
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
     emit DoubleClicked();
 }
 

@@ -25,18 +25,22 @@ class PictureBox : public QWidget {
     void SetBackColor(QColor colour);
 
   signals:
-    /// In the units that were set, whatever buttons are down.
-    void MouseMove(double x, double y);
+    /// Places are in the units that were set. A double click presses twice.
+    void MouseDown(double x, double y, Qt::MouseButton button);
+    void MouseMove(double x, double y, Qt::MouseButtons held);
     void Clicked();
     void DoubleClicked();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
   private:
+    QPointF InUnits(QPointF place) const;
+
     Picture raster_;
     double units_ = 0;
     QColor back_ = Qt::black;

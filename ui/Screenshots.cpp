@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QLabel>
+#include <QListWidget>
 #include <QProgressBar>
 #include <QSlider>
 #include <QStyleFactory>
@@ -17,11 +18,13 @@
 #include "shell/SubMain.h"
 #include "ui/Theme.h"
 #include "ui/WindowHost.h"
+#include "ui/dlgFltErosion.h"
 #include "ui/dlgGenModify.h"
 #include "ui/dlgPreview.h"
 #include "ui/dlgSaveAs.h"
 #include "ui/dlgSavePerlinsetNew.h"
 #include "ui/frmAbout.h"
+#include "ui/frmElevator.h"
 #include "ui/frmTer.h"
 
 namespace quillbrand {
@@ -77,6 +80,13 @@ void TakeDialogs(frmTer& window, Session& session, WindowHost& host,
     photographer.Take(perlinSet, "save-perlin-set");
     frmAbout about(&window);
     photographer.Take(about, "about");
+    dlgFltErosion erosion(window);
+    photographer.Take(erosion, "erosion");
+    frmElevator elevator(window);
+    photographer.Take(elevator, "elevator");
+    auto* sets = elevator.findChild<QListWidget*>("List1");
+    sets->setCurrentRow(sets->count() / 2);
+    photographer.Take(elevator, "elevator-set");
     GeneratorSettings settings;
     settings.seed = "500500";
     clsTerrain terrain = PreviewTerrain(session, settings, host);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "base/Host.h"
 #include "shell/Session.h"
@@ -29,6 +30,9 @@ class Workplace {
 
     /// The size that is ticked among the terrain's grid points, or nothing.
     virtual std::optional<int> ChosenSize() = 0;
+
+    /// The generator's seed as its text stands.
+    virtual std::string SeedText() = 0;
 };
 
 }  // namespace quillbrand

@@ -144,6 +144,10 @@ std::optional<int> frmTer::ChosenSize() {
     return globalPanel_->ChosenSize();
 }
 
+std::string frmTer::SeedText() {
+    return generatorPanel_->SeedText();
+}
+
 void frmTer::UpdateTitle() {
     const QString file = QString::fromStdString(session_.CurrentFile);
     if (!isMinimized()) {

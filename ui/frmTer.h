@@ -49,6 +49,7 @@ class frmTer : public QMainWindow, public Workplace {
     void ResizePicture(double factor = 1) override;
     void RebuildPicture() override;
     std::optional<int> ChosenSize() override;
+    std::string SeedText() override;
 
     /// Opens a TER file like the dialog does; a fault is shown.
     void OpenFile(const std::filesystem::path& path);

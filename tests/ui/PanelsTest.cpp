@@ -1,7 +1,6 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QSlider>
-#include <algorithm>
 #include <limits>
 
 #include "effects/QBFilter.h"
@@ -42,21 +41,31 @@ class Effects : public Panels {
 };
 
 constexpr auto smooth = "optFilter0";
+constexpr auto riverErosion = "optFilter4";
 constexpr auto optimized = "optFilter10";
 
-TEST_F(Effects, ListsAllTwelveAndOffersWhatThereIs) {
+TEST_F(Effects, ListAllTwelveAndOfferAllButRain) {
     for (const QBFilter::Effect& effect : QBFilter::Effects()) {
         const std::string name = "optFilter" + std::to_string(effect.code - 1);
         auto* option = Find<QRadioButton>(name.c_str());
         EXPECT_EQ(option->text().toStdString(), effect.caption);
         EXPECT_EQ(option->property("Index").toInt(), effect.code - 1);
-        const bool isRain = effect.code == 9;
-        EXPECT_EQ(option->isEnabled(), effect.available && !isRain) << effect.caption;
-        EXPECT_EQ(option->toolTip().contains("not available in this version"), !effect.available);
-        EXPECT_EQ(option->toolTip().contains("experimental (BETA)"), effect.code == 12);
+        EXPECT_EQ(option->isEnabled(), effect.code != 9) << effect.caption;
+        EXPECT_EQ(option->toolTip(), effect.code == 12 ? "experimental (BETA)" : "");
     }
     EXPECT_TRUE(IsTicked(smooth));
-    EXPECT_FALSE(Find<QWidget>("cmdElevatorPar")->isEnabled());
+}
+
+TEST_F(Effects, AreVisitedByTheTabKeyAsTheEyeGoes) {
+    Find<QWidget>(smooth)->setFocus();
+    QStringList visited;
+    for (int i = 0; i < 8; ++i) {
+        QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
+        visited += window_->focusWidget()->objectName();
+    }
+    EXPECT_EQ(visited,
+              QStringList({"cmdElevatorPar", "sldEffectFactor", "cmdZrangeReset", "sldZMin",
+                           "txtZMin", "sldZMax", "txtZmax", "cmdStartEffects"}));
 }
 
 TEST_F(Effects, KeepsStrengthsOneOff) {
@@ -140,8 +149,9 @@ TEST_F(Effects, RunWithTheStrengthAndTheLimitsOfThePanel) {
     Keys("sldZMin", {Qt::Key_PageUp, Qt::Key_PageUp});
     clsTerrain expected = session_.CurrentTerrain;
     RecordingHost host;
+    QBFilter::RiverBed riverBed;
     QBFilter::ApplyEffect(1, expected, 6, {.extent = expected.XPoints(), .zMin = 8192 - 32768},
-                          host);
+                          {session_.elevator, riverBed, {}}, host);
     const auto before = Heights();
     Click("cmdStartEffects");
     EXPECT_EQ(Heights(), AllCells(expected));
@@ -154,23 +164,37 @@ TEST_F(Effects, RunWithTheStrengthAndTheLimitsOfThePanel) {
     EXPECT_EQ(Heights(), AllCells(expected)) << "too weak to smooth";
 }
 
-TEST_F(Effects, ClearTheBusyFlagAfterAFault) {
+TEST_F(Effects, TellWhatIsMissingAndLeaveTheTerrainAsItWas) {
     Produce("246");
     ShowTab("Effects");
-    const auto effects = QBFilter::Effects();
-    const auto missing = std::ranges::find(effects, false, &QBFilter::Effect::available);
-    if (missing == effects.end())
-        GTEST_SKIP() << "every effect is there";
-    const std::string name = "optFilter" + std::to_string(missing->code - 1);
-    Find<QWidget>(name.c_str())->setEnabled(true);
-    Click(name.c_str());
+    Click(riverErosion);
     const auto before = Heights();
     ModalUser user({Press("OK")});
     Click("cmdStartEffects");
     ASSERT_EQ(user.seen.size(), 1);
     EXPECT_TRUE(user.seen[0].startsWith("Effects: ")) << user.seen[0].toStdString();
+    EXPECT_TRUE(user.seen[0].contains("erode0.flt")) << user.seen[0].toStdString();
     EXPECT_FALSE(session_.TerrainBusy);
-    EXPECT_EQ(Heights(), before);
+    EXPECT_TRUE(Heights() == before);
+}
+
+TEST_F(Effects, TakeTheSeedOfTheGeneratorForTheRiverBed) {
+    Picture bed(1025, 1025);
+    for (int y = 0; y < 1025; ++y)
+        for (int x = 0; x < 1025; ++x)
+            bed.Row(y)[x] = qRgb(0, x % 251, y % 61);
+    bed.Save(folder_ / "bed.png");
+    std::filesystem::rename(folder_ / "bed.png", folder_ / "erode0.flt");
+    Produce("314159");
+    ShowTab("Effects");
+    Click(riverErosion);
+    clsTerrain expected = session_.CurrentTerrain;
+    RecordingHost host;
+    QBFilter::RiverBed riverBed{folder_.Path(), "", "314"};
+    QBFilter::ApplyEffect(5, expected, 1, {.extent = expected.XPoints()},
+                          {session_.elevator, riverBed, {}}, host);
+    Click("cmdStartEffects");
+    EXPECT_TRUE(Heights() == AllCells(expected));
 }
 
 TEST_F(Panels, TickTheSizeThatFitsAndNoOther) {
