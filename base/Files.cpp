@@ -89,10 +89,17 @@ mode_t NewFileMode() {
     return 0666 & ~mask;
 }
 
-fs::path FollowLinks(const fs::path& path) {
+/// The file that is meant, whether or not it exists yet.
+fs::path FollowLinks(fs::path path) {
+    constexpr int most = 40;  // as the system has it
     std::error_code error;
-    const fs::path target = fs::weakly_canonical(path, error);
-    return error ? path : target;
+    for (int links = 0; links < most && fs::is_symlink(path, error); ++links) {
+        const fs::path target = fs::read_symlink(path, error);
+        if (error)
+            break;
+        path = path.parent_path() / target;
+    }
+    return path;
 }
 
 }  // namespace
@@ -127,8 +134,7 @@ void ReplaceFile(const fs::path& path, std::span<const std::byte> content) {
     if (exists && access(target.c_str(), W_OK) != 0)
         Fail("write", path, errno);
 
-    std::string temporary = (target.parent_path() / ("." + target.filename().string())).string();
-    temporary += ".XXXXXX";
+    std::string temporary = (target.parent_path() / ".quillbrand-XXXXXX").string();
     Handle file(mkostemp(temporary.data(), O_CLOEXEC));
     if (file.Get() < 0)
         Fail("write", path, errno);

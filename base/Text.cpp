@@ -1,7 +1,9 @@
 #include "base/Text.h"
 
+#include <QString>
 #include <algorithm>
 
+#include "base/Fault.h"
 #include "base/Stdio.h"
 
 namespace quillbrand {
@@ -15,6 +17,13 @@ std::string LowerCase(std::string_view text) {
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b) {
     return LowerCase(a) == LowerCase(b);
+}
+
+std::string ToLatin1(const std::string& text) {
+    const QString letters = QString::fromStdString(text);
+    if (std::any_of(letters.begin(), letters.end(), [](QChar c) { return c.unicode() > 0xff; }))
+        throw Fault("the name \"" + text + "\" cannot be stored: it has letters beyond Latin-1");
+    return letters.toLatin1().toStdString();
 }
 
 std::string TrimIni(std::string_view text) {

@@ -10,6 +10,9 @@ std::string LowerCase(std::string_view text);
 
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
+/// UTF-8 as 8-bit text (Latin-1), which names in files are. Throws Fault for letters beyond it.
+std::string ToLatin1(const std::string& text);
+
 /// Cut at the first NUL, then without blanks on either side.
 std::string TrimIni(std::string_view text);
 

@@ -170,7 +170,7 @@ KeyType Choice(std::span<const std::string_view> captions, int first) {
                 for (std::size_t i = 0; i < all.size(); ++i)
                     if (Plain(all[i]) == Plain(text))
                         return std::optional<Value>(first + static_cast<int>(i));
-                return WholeWithin(text, first, last);
+                return WholeWithin(Plain(text), first, last);
             }};
 }
 

@@ -111,6 +111,8 @@ Step ParseCommand(const std::string& argument) {
 }
 
 std::vector<Step> ParseScript(const std::string& text, const std::string& name) {
+    if (text.find('\0') != std::string::npos)
+        throw UsageError(name + " is no script: it holds a NUL");
     std::vector<Step> steps;
     std::istringstream lines(text);
     std::string line;

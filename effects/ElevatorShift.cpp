@@ -209,6 +209,18 @@ void ShiftPoints(clsTerrain& terrain, const Area& area, int extent, const Marks&
     });
 }
 
+/// The mark lies in the curve's own grid: it is off while the effect runs.
+class Disarmed {
+  public:
+    explicit Disarmed(ElevatorGrid& grid) : grid_(grid) { grid_.Arm(false); }
+    Disarmed(const Disarmed&) = delete;
+    Disarmed& operator=(const Disarmed&) = delete;
+    ~Disarmed() { grid_.Arm(true); }
+
+  private:
+    ElevatorGrid& grid_;
+};
+
 }  // namespace
 
 void FilterElevatorShift(clsTerrain& terrain, float& /*strength*/, const Area& area,
@@ -218,11 +230,10 @@ void FilterElevatorShift(clsTerrain& terrain, float& /*strength*/, const Area& a
     if (!elevator.grid.IsArmed())
         return;
     const int extent = std::max(area.extent.value(), -1);
-    ElevatorGrid curve = elevator.grid;
-    curve.Arm(false);
+    const Disarmed disarmed(elevator.grid);
     host.Progress(0);
     host.Yield();
-    const Marks marks(curve);
+    const Marks marks(elevator.grid);
     if (LiesInGrid(area, extent, terrain.Size() + 2))
         ElevatorPass(terrain, area, CutToGrid(area, extent, terrain.Size() + 2), marks, host).Run();
     else

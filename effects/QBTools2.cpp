@@ -18,7 +18,12 @@ std::size_t OffsetOf(int index) {
 }
 
 Bytes ReadSets(const Elevator& elevator) {
-    return ReadFile(elevator.ElevatorSetFile, mostBytes);
+    Bytes file = ReadFile(elevator.ElevatorSetFile, mostBytes + 1);
+    if (file.size() > mostBytes)
+        throw Fault(elevator.ElevatorSetFile.string() +
+                    " is no file of elevator sets: it has more than " + std::to_string(mostBytes) +
+                    " bytes");
+    return file;
 }
 
 void LoadStraightLine(ElevatorGrid& grid) {

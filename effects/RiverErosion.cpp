@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -105,16 +106,15 @@ class Gains {
     std::vector<Height> gains_;
 };
 
-/// Throws Fault where a height could leave 32 bits by what the picture holds at most.
-void RequireRoom(HeightWriter& terrain, const Square& square) {
-    constexpr Height most = 65535 + 3;
+/// Throws Fault where a height could leave 32 bits by `most`, what the picture adds at most.
+void RequireRoom(HeightWriter& terrain, const Square& square, Height most) {
     Extremes found{0, 0};
     FindExtremes(terrain.Row(square.y0).data() + square.x0, square.Columns(), square.Rows(),
                  terrain.Stride(), found);
-    if (found.low < INT32_MIN + most || found.high > INT32_MAX - most)
-        throw Fault("the height " +
-                    std::to_string(found.high > INT32_MAX - most ? found.high : found.low) +
-                    " leaves no room in 32 bits to be eroded");
+    if (found.high > INT32_MAX - most)
+        throw Fault("the height " + std::to_string(found.high) +
+                    " leaves no room in 32 bits for what river erosion adds, up to " +
+                    std::to_string(most));
 }
 
 }  // namespace
@@ -132,11 +132,12 @@ void FilterRiverErosion(clsTerrain& terrain, float& strength, const Area& area, 
     const auto picture = LoadReliefPicture(FindInFolder(bed.programFolder, bed.ErodePictureName));
 
     const Square square = CutToGrid(area, extent, terrain.Size() + 2);
-    Gains gains(*picture, terrain.Size(), DivisorOf(strength));
+    const int divisor = DivisorOf(strength);
+    Gains gains(*picture, terrain.Size(), divisor);
     const auto columns = gains.Columns(square.x0 + offset, square.Columns());
     if (!square.IsEmpty()) {
         HeightWriter writer(terrain);
-        RequireRoom(writer, square);
+        RequireRoom(writer, square, std::abs(65535 / divisor) + 3);
         Extremes stored{INT32_MAX, INT32_MIN};
         for (int y = square.y0; y <= square.y1; ++y) {
             Height* const cells = writer.Row(y).data() + square.x0;

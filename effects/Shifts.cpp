@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/Fault.h"
 #include "base/Numbers.h"
 #include "effects/HeightMap.h"
 #include "effects/QBFilter.h"
@@ -114,7 +115,14 @@ class TwoPasses {
 
     /// The same for a point that was not measured: its curve counts as 0, its sign is still there.
     Height ImageOfUnmeasured(Height h) {
-        return area_.Holds(h) ? Store(RoundTo16((0.0 - centre_) * scale_)) : h;
+        if (!area_.Holds(h))
+            return h;
+        const double image = RoundHalfEven((0.0 - centre_) * scale_);
+        if (!(image >= INT16_MIN && image <= INT16_MAX))
+            throw Fault(
+                "a gamma shift needs heights on both sides of 0: of these, the last column and row "
+                "would leave the 16-bit range");
+        return Store(static_cast<Height>(image));
     }
 
     void MeasurePass() {

@@ -6,10 +6,10 @@
 #include <QListWidget>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <algorithm>
 
 #include "base/Canvas.h"
 #include "base/Fault.h"
+#include "base/Text.h"
 #include "effects/QBTools2.h"
 #include "ui/Controls.h"
 #include "ui/Messages.h"
@@ -33,10 +33,7 @@ QString TextOf(const std::string& name) {
 }
 
 std::string NameOf(const QString& text) {
-    if (std::ranges::any_of(text, [](QChar letter) { return letter.unicode() > 0xff; }))
-        throw Fault("the name \"" + text.toStdString() +
-                    "\" cannot be stored: it has letters beyond Latin-1");
-    return text.toLatin1().toStdString();
+    return ToLatin1(text.toStdString());
 }
 
 }  // namespace

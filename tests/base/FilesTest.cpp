@@ -76,6 +76,9 @@ TEST(ReplaceFile, FollowsALinkAndKeepsThePermissionsOfTheOldFile) {
     fs::create_symlink(folder / "target", folder / "link");
     WriteText(folder / "link", "new");
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    fs::create_symlink("not there yet", folder / "dangling");
+    WriteText(folder / "dangling", "new");
+    EXPECT_EQ(TextOf(folder / "not there yet"), "new");
     EXPECT_EQ(TextOf(folder / "target"), "new");
     EXPECT_EQ(fs::status(folder / "target").permissions(), fs::perms(0640));
 }

@@ -101,6 +101,9 @@ TEST_F(RiverTest, FailsWithoutAPictureAndAtAStrengthOfEleven) {
     WritePicture(5, 5);
     clsTerrain terrain = GridFrom("1 2 / 3 4");
     EXPECT_THROW(Erode(terrain, 11, {.extent = 2}), Fault);
+    terrain.SetPoint(0, 0, INT32_MAX - 5959);
+    EXPECT_THROW(Erode(terrain, 0, {.extent = 2}), Fault) << "5957 + 3 is what it may add";
+    terrain.SetPoint(0, 0, 1);
     bed_.ErodePictureName.clear();
     try {
         Erode(terrain, 1, {.extent = 2});
