@@ -30,7 +30,7 @@ QB_VECTOR_CLONES std::ptrdiff_t CountWithin(const Height* cells, std::ptrdiff_t 
                                             Height zMax) {
     std::int32_t within = 0;
     for (std::ptrdiff_t i = 0; i < count; ++i)
-        within += (zMin < cells[i]) & (cells[i] < zMax) ? 1 : 0;
+        within += static_cast<std::int32_t>((zMin < cells[i]) & (cells[i] < zMax));
     return within;
 }
 
