@@ -1,7 +1,6 @@
 #include "shell/GeneratorCommands.h"
 
 #include <algorithm>
-#include <array>
 
 #include "base/Fault.h"
 #include "base/Picture.h"
@@ -12,10 +11,6 @@
 namespace quillbrand {
 
 namespace {
-
-/// The overlay modes as the editor names them, by number.
-constexpr std::array<std::string_view, 7> modeCaptions = {
-    "none", "Add", "Subtraction", "Multiplication", "Division", "highest", "lowest"};
 
 /// The row that `text` names, by number or by name. Where there are no sets at all the generator
 /// itself has a better message.
@@ -98,7 +93,7 @@ std::vector<Key> GeneratorKeys(const Key& first) {
         Key{"structure", WholeNumber(0, 4)}.Otherwise("2"),
         Key{"roughness", WholeNumber(0, 10)}.Otherwise("0"),
         Key{"seed", WholeNumber()}.Otherwise("the session's"),
-        Key{"mode", Choice(modeCaptions, 0)}.Otherwise("the session's"),
+        Key{"mode", Choice(modifyCaptions, 0)}.Otherwise("the session's"),
         Key{"highres", YesNo()}.Otherwise("no"),
         Key{"clear", YesNo()}.Default("no"),
         Key{"resize", WholeNumber(0, 2)}.Otherwise("the settings'"),

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "base/IniFile.h"
 
@@ -21,6 +23,10 @@ struct GeneratorSettings {
 
 /// Overlay modes: how a new height meets the old one. Other numbers leave the terrain as it is.
 enum ModifyModes : int { none, Add, Subtraction, Multiplication, Division, highest, lowest };
+
+/// What the modes are called, by number.
+constexpr std::array<std::string_view, 7> modifyCaptions = {
+    "none", "Add", "Subtraction", "Multiplication", "Division", "highest", "lowest"};
 
 /// The values of a settings file, section "Generator", as a reader gives them to the controls:
 /// missing keys count as 0 and numbers are limited to their control's range.

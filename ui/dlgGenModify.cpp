@@ -4,30 +4,11 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <array>
 
 #include "generator/GeneratorSettings.h"
 #include "ui/Controls.h"
 
 namespace quillbrand {
-
-namespace {
-
-struct ModeOption {
-    int mode;
-    const char* caption;
-};
-
-constexpr std::array modeOptions = {
-    ModeOption{Add, "Add"},
-    ModeOption{Subtraction, "Subtraction"},
-    ModeOption{Multiplication, "Multiplication"},
-    ModeOption{Division, "Division"},
-    ModeOption{highest, "highest"},
-    ModeOption{lowest, "lowest"},
-};
-
-}  // namespace
 
 dlgGenModify::dlgGenModify(int mode, QWidget* parent) : QDialog(parent), given_(mode) {
     setObjectName(QStringLiteral("dlgGenModify"));
@@ -62,14 +43,15 @@ QWidget* dlgGenModify::BuildOptions() {
     grid->setSpacing(gap);
     optModifyTerrain_ = new QButtonGroup(this);
     constexpr int rows = 3;
-    for (int place = 0; const ModeOption& choice : modeOptions) {
-        auto* option = new QRadioButton(QString::fromUtf8(choice.caption));
-        option->setObjectName(QStringLiteral("optModifyTerrain%1").arg(choice.mode));
-        option->setProperty("Index", choice.mode);
-        option->setChecked(choice.mode == given_);
-        optModifyTerrain_->addButton(option, choice.mode);
-        grid->addWidget(option, place % rows, place / rows, Qt::AlignLeft);
-        ++place;
+    for (int mode = Add; mode <= lowest; ++mode) {
+        const std::string_view caption = modifyCaptions.at(std::size_t(mode));
+        auto* option =
+            new QRadioButton(QString::fromUtf8(caption.data(), qsizetype(caption.size())));
+        option->setObjectName(QStringLiteral("optModifyTerrain%1").arg(mode));
+        option->setProperty("Index", mode);
+        option->setChecked(mode == given_);
+        optModifyTerrain_->addButton(option, mode);
+        grid->addWidget(option, (mode - Add) % rows, (mode - Add) / rows, Qt::AlignLeft);
     }
     return frame;
 }
