@@ -13,7 +13,7 @@ struct OptionsSettings {
     int terrainSizeIndex = 2;  ///< 0..4 for 128 to 2048 intervals
     int ResizeMode = 0;        ///< 1 bilinear, 2 pixel repetition; 0 before one was ever chosen
     int PaletteRow = 0;
-    std::optional<Colour> BackColor = {};  ///< of the window; its key stays as it is without one
+    std::optional<Colour> BackColor = {};  ///< of the window; without one its key stays as it is
     std::string terragenFolder = {};  ///< the three folders are shown only: WriteFolder stores them
     std::string objectFolder = {};
     std::string terrainFolder = {};

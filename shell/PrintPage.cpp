@@ -3,7 +3,6 @@
 #include <QBuffer>
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
@@ -75,20 +74,31 @@ class FontSystem {
     std::optional<QGuiApplication> application_;
 };
 
-/// The paper in the units of the page.
-QRectF Paper(const QPagedPaintDevice& device) {
-    const QRectF points = device.pageLayout().fullRect(QPageLayout::Point);
-    return {0, 0, points.width() * unitsPerPoint, points.height() * unitsPerPoint};
+/// A sheet to paint on, in the units of the page.
+struct Sheet {
+    QSizeF paper;
+    QPointF begin;  ///< where the painter's own origin lies on the paper
+    QSizeF unitsPerPixel;
+};
+
+QSizeF PaperOf(const QPageLayout& layout) {
+    return layout.fullRect(QPageLayout::Point).size() * unitsPerPoint;
+}
+
+/// Devices begin where they can print, which is not always at the paper's corner.
+Sheet SheetOf(const QPagedPaintDevice& device, const QPainter& painter) {
+    const QPageLayout layout = device.pageLayout();
+    return {PaperOf(layout),
+            layout.paintRect(QPageLayout::Point).topLeft() * unitsPerPoint,
+            {unitsPerInch / painter.device()->logicalDpiX(),
+             unitsPerInch / painter.device()->logicalDpiY()}};
 }
 
 /// Puts the painter's origin and units to those of the page.
-void UsePageUnits(QPainter& painter, const QPagedPaintDevice& device) {
+void UsePageUnits(QPainter& painter, const Sheet& sheet) {
     painter.resetTransform();
-    painter.scale(painter.device()->logicalDpiX() / unitsPerInch,
-                  painter.device()->logicalDpiY() / unitsPerInch);
-    // Devices begin where they can print, which is not always at the paper's corner.
-    const QPointF begin = device.pageLayout().paintRect(QPageLayout::Point).topLeft();
-    painter.translate(originX - begin.x() * unitsPerPoint, originY - begin.y() * unitsPerPoint);
+    painter.scale(1 / sheet.unitsPerPixel.width(), 1 / sheet.unitsPerPixel.height());
+    painter.translate(QPointF(originX, originY) - sheet.begin);
 }
 
 /// A line is narrowed where it is wider than `room`: a path may have any length.
@@ -123,7 +133,7 @@ void PaintText(QPainter& painter, const Session& session, double firstLine, doub
 }
 
 /// The page's own scale spans twice the picture in both directions.
-void PaintPicture(QPainter& painter, const QImage& picture, const QRectF& paper, double y) {
+void PaintPicture(QPainter& painter, const QImage& picture, const QSizeF& paper, double y) {
     if (picture.isNull())
         return;
     const double side = std::min(paper.width(), paper.height()) / 2;
@@ -134,11 +144,11 @@ void PaintPicture(QPainter& painter, const QImage& picture, const QRectF& paper,
     painter.drawImage(QRectF(QPointF(pictureX, y), target), picture);
 }
 
-void PaintCopy(QPainter& painter, const QPagedPaintDevice& device, const Session& session,
-               const QImage& picture, const PrintSettings& settings, bool isFirst) {
-    const QRectF paper = Paper(device);
+void PaintCopy(QPainter& painter, const Sheet& sheet, const Session& session, const QImage& picture,
+               const PrintSettings& settings, bool isFirst) {
+    const QSizeF& paper = sheet.paper;
     const double pictureY = paper.height() / 4;
-    UsePageUnits(painter, device);
+    UsePageUnits(painter, sheet);
     if (settings.settings)
         PaintText(painter, session, isFirst ? firstSize : size, paper.width() - 2 * originX,
                   settings.terrain ? pictureY - gap : paper.height() - 2 * originY);
@@ -188,14 +198,31 @@ void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Session& session,
         const bool begun = painter.isActive() ? device.newPage() : painter.begin(&device);
         if (!begun)
             throw Fault("the printer does not take the page");
-        PaintCopy(painter, device, session, picture, settings, copy == 1);
+        PaintCopy(painter, SheetOf(device, painter), session, picture, settings, copy == 1);
         const bool ends = copyAs == CopyAs::Job || copy == settings.copies;
         if (ends && !painter.end())
             throw Fault("the printer did not finish the page");
     }
 }
 
-Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSettings& settings) {
+QImage PagePicture(const Session& session, const QImage& picture, const PrintSettings& settings,
+                   const QPageLayout& paper, QSize room) {
+    const QSizeF size = PaperOf(paper);
+    QImage page(size.scaled(room, Qt::KeepAspectRatio).toSize(), QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    const Sheet sheet{size, {}, {size.width() / page.width(), size.height() / page.height()}};
+    PaintCopy(painter, sheet, session, picture, settings, true);
+    return page;
+}
+
+QPageLayout WholeA4() {
+    return {QPageSize(QPageSize::A4), QPageLayout::Portrait, {}};
+}
+
+Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSettings& settings,
+                 const QPageLayout& paper) {
     const FontSystem fonts;
     QByteArray content;
     QBuffer buffer(&content);
@@ -205,8 +232,7 @@ Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSetti
         QPdfWriter writer(&buffer);
         writer.setTitle(QStringLiteral("Terrain and Settings"));
         writer.setCreator(QStringLiteral("Quillbrand " QB_VERSION));
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageMargins({});
+        writer.setPageLayout(paper);
         PrintPage(writer, CopyAs::Page, session, picture, settings);
     }
     RemoveDate(content);

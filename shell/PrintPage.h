@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPageLayout>
 #include <array>
 #include <string>
 
@@ -34,8 +35,17 @@ std::array<std::string, 14> PageLines(const Session& session);
 void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Session& session,
                const QImage& picture, const PrintSettings& settings);
 
-/// The same as a PDF file on A4 paper, a page for each copy; nothing without copies. A program
-/// without windows needs no QGuiApplication of its own for this.
-Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSettings& settings);
+/// The page of the first copy on white, as large as `room` allows: what `paper` will look like.
+/// Requires a QGuiApplication.
+QImage PagePicture(const Session& session, const QImage& picture, const PrintSettings& settings,
+                   const QPageLayout& paper, QSize room);
+
+/// A4 paper, upright, without margins.
+QPageLayout WholeA4();
+
+/// The page as a PDF file, with a page for each copy; nothing without copies. A program without
+/// windows needs no QGuiApplication of its own for this.
+Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSettings& settings,
+                 const QPageLayout& paper = WholeA4());
 
 }  // namespace quillbrand

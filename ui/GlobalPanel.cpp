@@ -3,12 +3,17 @@
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <array>
+#include <utility>
 
 #include "base/NumberText.h"
 #include "base/Stdio.h"
+#include "shell/LandscapeArea.h"
 #include "ui/Controls.h"
+#include "ui/Messages.h"
+#include "ui/NumberField.h"
 #include "ui/ShownNumber.h"
 
 namespace quillbrand {
@@ -30,8 +35,13 @@ constexpr int sizeRows = 3;
 
 constexpr int fieldWidth = 88;
 
-QLineEdit* MakeField(const char* name, const char* text, const char* toolTip) {
-    auto* field = MakeText(name, text, toolTip);
+constexpr auto lowestLabel = "min. heigth of Terrain in meters";
+constexpr auto highestLabel = "max. heigth of Terrain in meters";
+constexpr auto changeValue = "Change Value";
+
+template <typename Field>
+Field* MakeField(const char* name, const char* text, const char* toolTip) {
+    auto* field = Named(new Field(QString::fromUtf8(text)), name, toolTip);
     field->setAlignment(Qt::AlignRight);
     field->setFixedWidth(fieldWidth);
     return field;
@@ -51,7 +61,13 @@ GlobalPanel::GlobalPanel(Workplace& workplace, QWidget* parent)
     layout->addWidget(BuildPlanetaryContext());
     layout->addWidget(BuildLandscapeArea());
     layout->addStretch();
+    leaving_ = new QTimer(this);
+    connect(leaving_, &QTimer::timeout, this, [this] {
+        if (!workplace_.TheSession().TerrainBusy)
+            FinishLeaving();
+    });
     connect(chkCurved_, &QCheckBox::clicked, this, &GlobalPanel::chkCurved_Click);
+    ConnectFields();
 }
 
 QWidget* GlobalPanel::BuildGridPoints() {
@@ -78,7 +94,7 @@ QWidget* GlobalPanel::BuildPlanetaryContext() {
     auto* frame = MakeFrame("Planetary Context");
     auto* layout = new QVBoxLayout(frame);
     layout->setSpacing(gap);
-    txtPlanetRadius_ = MakeField("txtPlanetRadius", "6370", "Planetradius in km");
+    txtPlanetRadius_ = MakeField<NumberField>("txtPlanetRadius", "6370", "Planetradius in km");
     chkCurved_ = MakeCheck("chkCurved", "curved Terrain", "click for curved Terrain");
     auto* radius = new QHBoxLayout;
     radius->addWidget(MakeLabel("Radius", txtPlanetRadius_));
@@ -88,19 +104,22 @@ QWidget* GlobalPanel::BuildPlanetaryContext() {
     layout->addLayout(radius);
 
     auto* planets = new QHBoxLayout;
-    for (QPushButton* planet :
-         {MakeButton("cmdEarth", "Earth", "Sets the planet radius for the earth"),
-          MakeButton("cmdMoon", "Moon", "Sets the planet radius for the moon"),
-          MakeButton("cmdMars", "Mars", "Sets the planet radius for the mars")}) {
-        planet->setEnabled(false);
+    const auto addPlanet = [&](QPushButton* planet, void (GlobalPanel::*click)()) {
         planets->addWidget(planet);
-    }
+        connect(planet, &QPushButton::clicked, this, click);
+    };
+    addPlanet(MakeButton("cmdEarth", "Earth", "Sets the planet radius for the earth"),
+              &GlobalPanel::cmdEarth_Click);
+    addPlanet(MakeButton("cmdMoon", "Moon", "Sets the planet radius for the moon"),
+              &GlobalPanel::cmdMoon_Click);
+    addPlanet(MakeButton("cmdMars", "Mars", "Sets the planet radius for the mars"),
+              &GlobalPanel::cmdMars_Click);
     layout->addLayout(planets);
     auto* cmdPlanetRender = MakeButton(
         "cmdPlanetRender", "Planet complete",
         "Sets all values for the terrain values, over in Terragen a planet too rendern.");
-    cmdPlanetRender->setEnabled(false);
     layout->addWidget(cmdPlanetRender);
+    connect(cmdPlanetRender, &QPushButton::clicked, this, &GlobalPanel::cmdPlanetRender_Click);
     return frame;
 }
 
@@ -108,25 +127,74 @@ QWidget* GlobalPanel::BuildLandscapeArea() {
     auto* frame = MakeFrame("Landscape Area");
     auto* grid = new QGridLayout(frame);
     grid->setSpacing(gap);
-    const auto addRow = [&](QLineEdit* field, const char* label) {
+    const auto addRow = [&](auto* field, const char* label) {
         const int row = grid->rowCount();
-        field->setReadOnly(true);
         grid->addWidget(field, row, 0);
         grid->addWidget(MakeLabel(label, field), row, 1);
         return field;
     };
-    txtMetersPoint_ =
-        addRow(MakeField("txtMetersPoint", "", "metres for point"), "metres point spacing");
+    txtMetersPoint_ = addRow(MakeField<QLineEdit>("txtMetersPoint", "", "metres for point"),
+                             "metres point spacing");
+    txtMetersPoint_->setReadOnly(true);
+    txtMetersPoint_->setFocusPolicy(Qt::ClickFocus);
+    QPalette shownOnly;
+    shownOnly.setBrush(QPalette::Base, Qt::transparent);
+    txtMetersPoint_->setPalette(shownOnly);
     txtTerSizeMeters_ =
-        addRow(MakeField("txtTerSizeMeters", "", "side length of the terrain"), "metres in square");
-    txtMinTerrain_ = addRow(MakeField("txtMinTerrain", "-300", "Deepest point in the terrain "),
-                            "min. heigth of Terrain in meters");
-    txtMaxTerrain_ = addRow(MakeField("txtMaxTerrain", "600", "highest point in the terrain"),
-                            "max. heigth of Terrain in meters");
+        addRow(MakeField<NumberField>("txtTerSizeMeters", "", "side length of the terrain"),
+               "metres in square");
+    txtMinTerrain_ =
+        addRow(MakeField<NumberField>("txtMinTerrain", "-300", "Deepest point in the terrain "),
+               lowestLabel);
+    txtMaxTerrain_ =
+        addRow(MakeField<NumberField>("txtMaxTerrain", "600", "highest point in the terrain"),
+               highestLabel);
     chkFixHeight_ = MakeCheck("chkFixHeight", "fix Height");
     grid->addWidget(chkFixHeight_, grid->rowCount(), 0, 1, 2, Qt::AlignLeft);
     grid->setColumnStretch(1, 1);
     return frame;
+}
+
+void GlobalPanel::ConnectFields() {
+    connect(txtPlanetRadius_, &QLineEdit::textEdited, this, &GlobalPanel::txtPlanetRadius_KeyPress);
+    connect(txtMinTerrain_, &NumberField::Left, this, [this] {
+        LeaveSoon(
+            [this, text = txtMinTerrain_->text().toStdString()] { txtMinTerrain_Validate(text); });
+    });
+    connect(txtMaxTerrain_, &NumberField::Left, this, [this] {
+        LeaveSoon(
+            [this, text = txtMaxTerrain_->text().toStdString()] { txtMaxTerrain_Validate(text); });
+    });
+    connect(txtTerSizeMeters_, &NumberField::GotFocus, this,
+            &GlobalPanel::txtTerSizeMeters_GotFocus);
+    connect(txtTerSizeMeters_, &NumberField::Left, this, [this] {
+        LeaveSoon([this, text = txtTerSizeMeters_->text().toStdString(), old = oldSizeText_] {
+            txtTerSizeMeters_Validate(text);
+            txtTerSizeMeters_LostFocus(old);
+        });
+    });
+}
+
+/// A field can need a message box when it is left, which must not come up amid a press of the mouse
+/// or a change of tabs. So its text is taken now and acts when these are through.
+void GlobalPanel::LeaveSoon(std::function<void()> leave) {
+    FinishLeaving();
+    leave_ = std::move(leave);
+    leaving_->start(0);
+}
+
+/// Before anything else that the user does here.
+void GlobalPanel::FinishLeaving() {
+    leaving_->stop();
+    if (const auto leave = std::exchange(leave_, nullptr))
+        leave();
+}
+
+void GlobalPanel::Change(const QString& command, const std::function<void(clsTerrain&)>& change) {
+    Host& host = workplace_.TheHost();
+    RunCommand(workplace_.Window(), host, command,
+               [&] { change(workplace_.TheSession().CurrentTerrain); });
+    host.ActualScreen();
 }
 
 void GlobalPanel::Refresh() {
@@ -137,6 +205,8 @@ void GlobalPanel::Refresh() {
     txtMaxTerrain_->setText(Shown(terrain.MaxTU() * scale, "#######0"));
     txtPlanetRadius_->setText(Shown(terrain.CRAD(), "#####0"));
     txtTerSizeMeters_->setText(Shown(terrain.Size() * scale, "######0"));
+    // What the terrain brings is no edit of the user's.
+    oldSizeText_ = txtTerSizeMeters_->text();
     chkCurved_->setChecked(terrain.CRVM() != 0);
     terrain.FixHeight(chkFixHeight_->isChecked());
 }
@@ -175,6 +245,72 @@ QString GlobalPanel::HighestText() const {
 
 void GlobalPanel::chkCurved_Click(bool ticked) {
     workplace_.TheSession().CurrentTerrain.CRVM(ticked ? 1 : 0);
+}
+
+void GlobalPanel::cmdEarth_Click() {
+    FinishLeaving();
+    Change(QStringLiteral("Earth"), [](clsTerrain& terrain) { terrain.CRAD(earthRadius); });
+}
+
+void GlobalPanel::cmdMoon_Click() {
+    FinishLeaving();
+    Change(QStringLiteral("Moon"), [](clsTerrain& terrain) { terrain.CRAD(moonRadius); });
+}
+
+void GlobalPanel::cmdMars_Click() {
+    FinishLeaving();
+    Change(QStringLiteral("Mars"), [](clsTerrain& terrain) { terrain.CRAD(marsRadius); });
+}
+
+void GlobalPanel::cmdPlanetRender_Click() {
+    FinishLeaving();
+    Change(QStringLiteral("Planet complete"), CompletePlanet);
+}
+
+void GlobalPanel::txtPlanetRadius_KeyPress(const QString& text) {
+    const std::string typed = text.toStdString();
+    const std::string limited = LimitedRadius(typed);
+    if (limited == typed)
+        return;
+    const int place = txtPlanetRadius_->cursorPosition();
+    txtPlanetRadius_->setText(QString::fromStdString(limited));
+    // The least radius stands for a number that is still to be typed: the next key replaces it.
+    if (limited == LimitedRadius(""))
+        txtPlanetRadius_->selectAll();
+    else
+        txtPlanetRadius_->setCursorPosition(place);
+}
+
+void GlobalPanel::txtMinTerrain_Validate(const std::string& text) {
+    Change(QString::fromUtf8(lowestLabel), [&](clsTerrain& terrain) { SetLowest(terrain, text); });
+}
+
+void GlobalPanel::txtMaxTerrain_Validate(const std::string& text) {
+    Change(QString::fromUtf8(highestLabel),
+           [&](clsTerrain& terrain) { SetHighest(terrain, text); });
+}
+
+void GlobalPanel::txtTerSizeMeters_GotFocus() {
+    oldSizeText_ = txtTerSizeMeters_->text();
+}
+
+void GlobalPanel::txtTerSizeMeters_Validate(const std::string& text) {
+    const clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
+    txtTerSizeMeters_->setText(QString::fromStdString(LimitedSide(terrain, text)));
+}
+
+void GlobalPanel::txtTerSizeMeters_LostFocus(const QString& oldSizeText) {
+    const LandscapeTexts texts{txtTerSizeMeters_->text().toStdString(),
+                               txtMinTerrain_->text().toStdString(),
+                               txtMaxTerrain_->text().toStdString()};
+    const bool isNew = txtTerSizeMeters_->text() != oldSizeText;
+    Change(QString::fromUtf8(changeValue), [&](clsTerrain& terrain) {
+        const bool grows =
+            isNew && workplace_.TheHost().Ask(
+                         {"The size was changed. Shall the Terrain height also be adjusted?",
+                          changeValue}) == Answer::Yes;
+        SetSide(terrain, texts, grows ? KeepHeights::InUnits : KeepHeights::InMetres);
+    });
 }
 
 }  // namespace quillbrand

@@ -1,15 +1,20 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <optional>
+#include <string>
 
 #include "ui/Workplace.h"
 
 class QButtonGroup;
 class QCheckBox;
 class QLineEdit;
+class QTimer;
 
 namespace quillbrand {
+
+class NumberField;
 
 /// The tab "Global": the grid's size and what a TER file carries beside its heights.
 class GlobalPanel : public QWidget {
@@ -40,17 +45,35 @@ class GlobalPanel : public QWidget {
     QWidget* BuildPlanetaryContext();
     QWidget* BuildLandscapeArea();
 
+    void ConnectFields();
+    void LeaveSoon(std::function<void()> leave);
+    void FinishLeaving();
+    void Change(const QString& command, const std::function<void(clsTerrain&)>& change);
+
     void chkCurved_Click(bool ticked);
+    void cmdEarth_Click();
+    void cmdMoon_Click();
+    void cmdMars_Click();
+    void cmdPlanetRender_Click();
+    void txtPlanetRadius_KeyPress(const QString& text);
+    void txtMinTerrain_Validate(const std::string& text);
+    void txtMaxTerrain_Validate(const std::string& text);
+    void txtTerSizeMeters_GotFocus();
+    void txtTerSizeMeters_Validate(const std::string& text);
+    void txtTerSizeMeters_LostFocus(const QString& oldSizeText);
 
     Workplace& workplace_;
     QButtonGroup* optTerSize_;
-    QLineEdit* txtPlanetRadius_;
+    NumberField* txtPlanetRadius_;
     QCheckBox* chkCurved_;
     QLineEdit* txtMetersPoint_;
-    QLineEdit* txtTerSizeMeters_;
-    QLineEdit* txtMinTerrain_;
-    QLineEdit* txtMaxTerrain_;
+    NumberField* txtTerSizeMeters_;
+    NumberField* txtMinTerrain_;
+    NumberField* txtMaxTerrain_;
     QCheckBox* chkFixHeight_;
+    QString oldSizeText_;
+    QTimer* leaving_;
+    std::function<void()> leave_;  ///< what leaving_ runs: a field's last word
 };
 
 }  // namespace quillbrand

@@ -16,11 +16,15 @@
 #include "base/Fault.h"
 #include "shell/GeneratorCommands.h"
 #include "shell/SubMain.h"
+#include "ui/FolderDialog.h"
+#include "ui/PictureBox.h"
 #include "ui/Theme.h"
 #include "ui/WindowHost.h"
 #include "ui/dlgFltErosion.h"
 #include "ui/dlgGenModify.h"
+#include "ui/dlgOptions.h"
 #include "ui/dlgPreview.h"
+#include "ui/dlgPrint.h"
 #include "ui/dlgSaveAs.h"
 #include "ui/dlgSavePerlinsetNew.h"
 #include "ui/frmAbout.h"
@@ -93,6 +97,18 @@ void TakeDialogs(frmTer& window, Session& session, WindowHost& host,
     dlgPreview preview(&window);
     preview.ShowHeights(terrain, 5, host);
     photographer.Take(preview, "preview");
+    dlgPrint print(window, window.findChild<PictureBox*>("Picture1")->grab().toImage());
+    photographer.Take(print, "print");
+}
+
+void TakeOptions(frmTer& window, const Session& session, const Photographer& photographer) {
+    dlgOptions options(window);
+    photographer.Take(options, "options-programm");
+    options.findChild<QTabWidget*>()->setCurrentIndex(1);
+    photographer.Take(options, "options-directories");
+    FolderDialog folder(QString::fromUtf8(MdlFolder::targets[2].title.data()),
+                        session.ProgramFolder, &options);
+    photographer.Take(folder, "options-folder");
 }
 
 void TakeAll(const QString& folder, const std::string& programFolder, bool dark) {
@@ -122,6 +138,7 @@ void TakeAll(const QString& folder, const std::string& programFolder, bool dark)
     host.ActualScreen();
     TakeWindow(window, photographer);
     TakeDialogs(window, session, host, photographer);
+    TakeOptions(window, session, photographer);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QStyle>
 #include <QStyleFactory>
+#include <cmath>
 
 namespace quillbrand {
 
@@ -28,6 +29,18 @@ QPalette DarkPalette() {
     return palette;
 }
 
+/// How bright a colour looks, 0..1.
+double Brightness(const QColor& colour) {
+    return 0.2126 * colour.redF() + 0.7152 * colour.greenF() + 0.0722 * colour.blueF();
+}
+
+QColor Between(const QColor& a, const QColor& b) {
+    return {(a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2};
+}
+
+/// How far the brightness of a text must be from that of its ground.
+constexpr double leastContrast = 0.4;
+
 }  // namespace
 
 void ApplyStyle() {
@@ -37,6 +50,22 @@ void ApplyStyle() {
 void ApplyTheme(bool dark) {
     ApplyStyle();
     QApplication::setPalette(dark ? DarkPalette() : QApplication::style()->standardPalette());
+}
+
+QPalette WindowColours(const QColor& window) {
+    QPalette colours;
+    colours.setColor(QPalette::Window, window);
+    const double brightness = Brightness(window);
+    const QColor usual = colours.color(QPalette::WindowText);
+    if (std::abs(Brightness(usual) - brightness) >= leastContrast)
+        return colours;
+    const QColor text = brightness > 0.5 ? Qt::black : Qt::white;
+    colours.setColor(QPalette::Button, window);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText}) {
+        colours.setColor(role, text);
+        colours.setColor(QPalette::Disabled, role, Between(text, window));
+    }
+    return colours;
 }
 
 }  // namespace quillbrand

@@ -60,13 +60,13 @@ ToolStrip::ToolStrip(QWidget* parent)
     layout->addWidget(Toolbar2_);
     layout->addWidget(ToolBarPen_);
     layout->addStretch();
-    TintIcons();
+    TintIcons(palette());
 }
 
-void ToolStrip::TintIcons() {
+void ToolStrip::TintIcons(const QPalette& colours) {
     for (QToolBar* strip : {Toolbar2_, ToolBarPen_})
         for (QAction* action : strip->actions())
-            action->setIcon(ThemedIcon(action->data().toString(), palette()));
+            action->setIcon(ThemedIcon(action->data().toString(), colours));
 }
 
 }  // namespace quillbrand

@@ -12,8 +12,8 @@ class ToolStrip : public QWidget {
   public:
     explicit ToolStrip(QWidget* parent = nullptr);
 
-    /// Draws the icons in the colours of the present palette.
-    void TintIcons();
+    /// Draws the icons in these colours.
+    void TintIcons(const QPalette& colours);
 
   private:
     QToolBar* Toolbar2_;

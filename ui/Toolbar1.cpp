@@ -21,16 +21,16 @@ const QList<Toolbar1::Spec>& Toolbar1::Specs() {
         {"Öffnen", "Open", "open", "Ctrl+O"},
         {"Speichern", "Save", "save", "Ctrl+S"},
         {"SpeichernAls", "Save as...", "save-as", "Ctrl+Shift+S", true, true},
-        {"Print", "Print Terrain and Settings", "print", "Ctrl+P", false, true},
+        {"Print", "Print Terrain and Settings", "print", "Ctrl+P", true, true},
         {"Restore", "Restore Terrain", "restore", "Ctrl+Shift+B"},
         {"Backup", "Backup Terrain", "backup", "Ctrl+B", true, true},
-        {"Eigenschaften", "Options", "options", "Ctrl+,", false},
+        {"Eigenschaften", "Options", "options", "Ctrl+,"},
         {"Löschen", "Clear Terrain ", "clear", "Ctrl+Shift+N"},
         {"Hilfe", "About", "about", "F1", true, true},
         {"Zoom in", "Zoom x2", "zoom-in", "Ctrl++"},
         {"Zoom out", "Zoom /2", "zoom-out", "Ctrl+-"},
         {"Zoom100", "Zoom 100%", "zoom-100", "Ctrl+0", true, true},
-        {"Terragen", "Start Terragen with actually terrain", "terragen", "", false},
+        {"Terragen", "Start Terragen with actually terrain", "terragen", ""},
         {"View3d", "View Terrain 3D", "view3d", "", false},
         {"ObjectMaker", "ObjectMaker", "objectmaker", "", false, true},
         {"SavePerlin", "", "save-perlin", ""},
@@ -58,7 +58,7 @@ Toolbar1::Toolbar1(QWidget* parent) : QToolBar(parent) {
         if (spec.endsGroup)
             addSeparator();
     }
-    TintIcons();
+    TintIcons(palette());
 }
 
 QAction* Toolbar1::Button(const QString& key) const {
@@ -71,9 +71,9 @@ void Toolbar1::EnableButton(const QString& key, bool enable) {
             Button(key)->setEnabled(enable && spec.built);
 }
 
-void Toolbar1::TintIcons() {
+void Toolbar1::TintIcons(const QPalette& colours) {
     for (const Spec& spec : Specs())
-        Button(spec.key)->setIcon(ThemedIcon(spec.icon, palette()));
+        Button(spec.key)->setIcon(ThemedIcon(spec.icon, colours));
 }
 
 }  // namespace quillbrand

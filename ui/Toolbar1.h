@@ -19,8 +19,8 @@ class Toolbar1 : public QToolBar {
     /// Buttons whose commands are not built yet stay disabled whatever is asked.
     void EnableButton(const QString& key, bool enable);
 
-    /// Draws the icons in the colours of the present palette.
-    void TintIcons();
+    /// Draws the icons in these colours.
+    void TintIcons(const QPalette& colours);
 
   signals:
     /// A button was pressed, by mouse or by its shortcut.

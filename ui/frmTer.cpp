@@ -16,6 +16,7 @@
 #include "editor/Palette.h"
 #include "editor/PointTexts.h"
 #include "editor/View.h"
+#include "shell/RendererLink.h"
 #include "shell/TerrainCommands.h"
 #include "ui/Controls.h"
 #include "ui/EditPanel.h"
@@ -26,9 +27,12 @@
 #include "ui/ObjectsPanel.h"
 #include "ui/PictureBox.h"
 #include "ui/StatusPanels.h"
+#include "ui/Theme.h"
 #include "ui/ToolStrip.h"
 #include "ui/Toolbar1.h"
 #include "ui/ZViewPanel.h"
+#include "ui/dlgOptions.h"
+#include "ui/dlgPrint.h"
 #include "ui/dlgSavePerlinsetNew.h"
 #include "ui/frmAbout.h"
 
@@ -90,11 +94,8 @@ void frmTer::ConnectParts() {
 bool frmTer::Form_Load() {
     session_.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
-    if (session_.BackColor) {
-        QPalette colours = palette();
-        colours.setColor(QPalette::Window, ColorOf(*session_.BackColor));
-        setPalette(colours);
-    }
+    if (session_.BackColor)
+        setPalette(WindowColours(ColorOf(*session_.BackColor)));
     loaded_ = true;
     ResizePicture();
     session_.TerrainEmpty = true;
@@ -219,6 +220,8 @@ void frmTer::Toolbar1_ButtonClick(const QString& key) {
 bool frmTer::RunButton(const QString& key) {
     if (key == QStringLiteral("SavePerlin"))
         dlgSavePerlinsetNew(*this).exec();
+    else if (key == QStringLiteral("Terragen"))
+        StartTerragen(session_, host_, [this] { document_.FileSave(1); });
     else if (key == QStringLiteral("Neu"))
         document_.Neu();
     else if (key == QStringLiteral("Öffnen"))
@@ -233,6 +236,8 @@ bool frmTer::RunButton(const QString& key) {
         document_.Backup();
     else if (key == QStringLiteral("Restore"))
         return document_.Restore();
+    else if (key == QStringLiteral("Eigenschaften"))
+        dlgOptions(*this).exec();
     else if (key == QStringLiteral("Hilfe"))
         frmAbout(this).exec();
     else if (key == QStringLiteral("Zoom in"))
@@ -241,6 +246,8 @@ bool frmTer::RunButton(const QString& key) {
         ResizePicture(0.5);
     else if (key == QStringLiteral("Zoom100"))
         ResizePicture(0);
+    else if (key == QStringLiteral("Print"))
+        dlgPrint(*this, Picture1_->grab().toImage()).exec();
     return true;
 }
 
@@ -248,6 +255,7 @@ void frmTer::CommonEnd() {
     InfoText_->setText(QStringLiteral("Ready"));
     PB_->setValue(0);
     session_.TerrainBusy = false;
+    ShowSwatch();
     ActualScreen();
     host_.Yield();
 }
@@ -328,8 +336,9 @@ void frmTer::changeEvent(QEvent* event) {
     if (event->type() == QEvent::WindowStateChange)
         UpdateTitle();
     if (event->type() == QEvent::PaletteChange) {
-        toolbar_->TintIcons();
-        toolStrip_->TintIcons();
+        // The parts take the window's palette over only after this.
+        toolbar_->TintIcons(palette());
+        toolStrip_->TintIcons(palette());
     }
 }
 

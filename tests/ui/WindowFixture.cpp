@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTabWidget>
+#include <QTimerEvent>
 #include <QToolBar>
 
 #include "shell/SubMain.h"
@@ -14,13 +15,32 @@
 
 namespace quillbrand {
 
+namespace {
+
+/// Of several users, one within an action of another, only the last acts.
+QList<ModalUser*>& Users() {
+    static QList<ModalUser*> users;
+    return users;
+}
+
+}  // namespace
+
 ModalUser::ModalUser(QList<Action> actions) : actions_(std::move(actions)) {
+    Users().append(this);
     startTimer(1);
 }
 
-void ModalUser::timerEvent(QTimerEvent*) {
+ModalUser::~ModalUser() {
+    Users().removeLast();
+}
+
+void ModalUser::timerEvent(QTimerEvent* event) {
+    // An action may open a window within this one. While a timer is being served it does not fire
+    // again, so another one must be there for that window.
+    killTimer(event->timerId());
+    startTimer(1);
     QWidget* modal = QApplication::activeModalWidget();
-    if (modal == nullptr || !modal->isVisible())
+    if (Users().last() != this || modal == nullptr || !modal->isVisible())
         return;
     if (const auto* box = qobject_cast<QMessageBox*>(modal))
         seen += box->windowTitle() + ": " + box->text();

@@ -13,13 +13,16 @@
 namespace quillbrand {
 
 /// Acts on the modal windows that a command opens, as a user would: each of the given actions runs
-/// once, on the next modal window that is up. Everything goes through the event loop; nothing
-/// waits for a time to pass.
+/// once, on the next modal window that is up, be it one that the last action opened. Everything
+/// goes through the event loop; nothing waits for a time to pass.
 class ModalUser : public QObject {
   public:
     using Action = std::function<void(QWidget*)>;
 
     explicit ModalUser(QList<Action> actions);
+    ModalUser(const ModalUser&) = delete;
+    ModalUser& operator=(const ModalUser&) = delete;
+    ~ModalUser() override;
 
     /// The texts of the message boxes that came, "title: text".
     QStringList seen;
