@@ -89,7 +89,8 @@ mode_t NewFileMode() {
     return 0666 & ~mask;
 }
 
-/// The file that is meant, whether or not it exists yet.
+}  // namespace
+
 fs::path FollowLinks(fs::path path) {
     constexpr int most = 40;  // as the system has it
     std::error_code error;
@@ -101,8 +102,6 @@ fs::path FollowLinks(fs::path path) {
     }
     return path;
 }
-
-}  // namespace
 
 Bytes ReadFile(const fs::path& path, std::size_t most) {
     bool exists = false;

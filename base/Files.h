@@ -26,6 +26,9 @@ void OverwriteFile(const std::filesystem::path& path, Bytes content);
 /// one whose name differs only in case does, that one is returned.
 std::filesystem::path FindInFolder(const std::filesystem::path& folder, const std::string& name);
 
+/// The file that a path means, through links, whether or not it exists yet.
+std::filesystem::path FollowLinks(std::filesystem::path path);
+
 /// Text as bytes, to be written.
 std::span<const std::byte> AsBytes(const std::string& text);
 

@@ -1,6 +1,6 @@
 #include "base/IniFile.h"
 
-// Bytes stay as they are: settings files of other systems hold 8-bit text.
+// Bytes stay as they are until a value is asked for.
 #define SI_NO_CONVERSION
 #include <SimpleIni.h>
 
@@ -69,7 +69,7 @@ std::string IniFile::Get(const std::string& section, const std::string& key,
     const char* value = content_->ini.GetValue(section.c_str(), key.c_str());
     if (value == nullptr)
         return defaultValue;
-    return TrimIni(WithoutQuotes(value).substr(0, buffer - 1));
+    return TrimIni(ToUtf8(WithoutQuotes(value)).substr(0, buffer - 1));
 }
 
 void IniFile::Set(const std::string& section, const std::string& key, const std::string& value) {

@@ -58,6 +58,8 @@ class Scanner {
         place_ = text_.find_first_of("]\r\n", begin);
         if (place_ == npos || text_[place_] != ']') {
             place_ = std::min(place_, text_.size());
+            // To the reader, what follows belongs to a section that nobody can name.
+            entry_.section = "\n";
             return false;
         }
         entry_.section = Name(text_, begin, place_);

@@ -19,6 +19,17 @@ std::string Shortest(Number number) {
     return {buffer.data(), result.ptr};
 }
 
+template <typename Number>
+std::string Plain(Number number) {
+    const double size = std::fabs(static_cast<double>(number));
+    if (number != 0 && !(size >= 1e-5 && size < 1e15))
+        return Shortest(number);
+    std::array<char, 64> buffer;
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
+                                      std::chars_format::fixed);
+    return {buffer.data(), result.ptr};
+}
+
 /// Whole part and decimals of |number| with exactly `decimals` digits behind the point.
 std::pair<std::string, std::string> Digits(double number, std::size_t decimals) {
     std::array<char, 400> buffer;
@@ -56,7 +67,7 @@ std::string DecimalPart(std::string digits, std::string_view pattern) {
 }  // namespace
 
 std::string Str(double number) {
-    return number < 0 ? ShortestText(number) : " " + ShortestText(number);
+    return number < 0 ? PlainText(number) : " " + PlainText(number);
 }
 
 double Val(std::string_view text) {
@@ -85,6 +96,14 @@ std::string ShortestText(float number) {
 
 std::string ShortestText(double number) {
     return Shortest(number);
+}
+
+std::string PlainText(float number) {
+    return Plain(number);
+}
+
+std::string PlainText(double number) {
+    return Plain(number);
 }
 
 std::string Format(double number, std::string_view pattern) {

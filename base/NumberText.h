@@ -20,6 +20,10 @@ double Val(std::string_view text);
 std::string ShortestText(float number);
 std::string ShortestText(double number);
 
+/// The same without an exponent, as far as that stays readable.
+std::string PlainText(float number);
+std::string PlainText(double number);
+
 /// `number` through a pattern: `#` is a digit if there is one, `0` always a digit, `.` the decimal
 /// point (which stands even where no decimals follow), `%` the number times 100 and the sign
 /// itself. Characters in front of and behind the digits stand for themselves. Rounds to nearest,

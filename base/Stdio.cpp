@@ -23,7 +23,7 @@ bool NumericKeyFilter(std::string_view boxText, int key) {
 
 double ClampTextBox(std::string& boxText, double high, double low) {
     const double value = ClampValue(low, high, Val(boxText));
-    boxText = ShortestText(value);
+    boxText = PlainText(value);
     return value;
 }
 

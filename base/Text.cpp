@@ -1,6 +1,7 @@
 #include "base/Text.h"
 
 #include <QString>
+#include <QStringDecoder>
 #include <algorithm>
 
 #include "base/Fault.h"
@@ -24,6 +25,13 @@ std::string ToLatin1(const std::string& text) {
     if (std::any_of(letters.begin(), letters.end(), [](QChar c) { return c.unicode() > 0xff; }))
         throw Fault("the name \"" + text + "\" cannot be stored: it has letters beyond Latin-1");
     return letters.toLatin1().toStdString();
+}
+
+std::string ToUtf8(const std::string& text) {
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString letters = decode(QByteArray::fromStdString(text));
+    return decode.hasError() ? QString::fromLatin1(QByteArray::fromStdString(text)).toStdString()
+                             : letters.toStdString();
 }
 
 std::string TrimIni(std::string_view text) {

@@ -17,11 +17,12 @@ FileUndo::~FileUndo() {
 }
 
 void FileUndo::Write(const fs::path& path, const std::string& text) {
-    MakeFolder(path.parent_path());
-    OldFile old{.path = path, .content = std::nullopt};
-    if (STDIO::FileExists(path))
-        old.content = ReadFile(path, std::numeric_limits<std::size_t>::max());
-    ReplaceFile(path, AsBytes(text));
+    const fs::path target = FollowLinks(path);
+    MakeFolder(target.parent_path());
+    OldFile old{.path = target, .content = std::nullopt};
+    if (STDIO::FileExists(target))
+        old.content = ReadFile(target, std::numeric_limits<std::size_t>::max());
+    ReplaceFile(target, AsBytes(text));
     files_.push_back(std::move(old));
 }
 

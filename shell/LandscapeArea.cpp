@@ -13,8 +13,8 @@ constexpr double mostSide = 100000;
 
 Fault TooFar(const clsTerrain& terrain, double metres) {
     const double unit = terrain.ScaleT();
-    return Fault("a height of " + ShortestText(metres) + " m does not fit: with " +
-                 ShortestText(terrain.ScaleT()) + " m per point it must lie within " +
+    return Fault("a height of " + PlainText(metres) + " m does not fit: with " +
+                 PlainText(terrain.ScaleT()) + " m per point it must lie within " +
                  Format(INT16_MIN * unit, "#0") + " to " + Format(INT16_MAX * unit, "#0") +
                  " m, and no more than " + Format(INT16_MAX * unit, "#0") +
                  " m from the other end of the heights");
@@ -24,7 +24,7 @@ Fault TooFar(const clsTerrain& terrain, double metres) {
 std::int64_t Units(const clsTerrain& terrain, double metres) {
     if (!(terrain.ScaleT() > 0))
         throw Fault("no height can be set while the metres per point are " +
-                    ShortestText(terrain.ScaleT()) + "; allowed is more than 0");
+                    PlainText(terrain.ScaleT()) + "; allowed is more than 0");
     try {
         return RoundTo16(metres / terrain.ScaleT());
     } catch (const Fault&) {

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <clocale>
 #include <cstdio>
+#include <ctime>
 #include <optional>
 
 #include "base/Fault.h"
@@ -51,6 +52,9 @@ class FontSystem {
         if (QCoreApplication::instance() != nullptr)
             return;
         formerHandler_ = qInstallMessageHandler(PassOnFatal);
+        // The file's date has one length in this zone, whatever the machine's is.
+        qputenv("TZ", "UTC");
+        tzset();
         application_.emplace(count_, arguments_.data());
         // The application has taken over the user's locale. There is one thread.
         std::setlocale(LC_ALL, "C");  // NOLINT(concurrency-mt-unsafe)
@@ -181,7 +185,7 @@ std::array<std::string, 14> PageLines(const Session& session) {
             "Name :" + session.CurrentFile,
             "    ",
             "Size           :" + points + " x " + points + " Pixel",
-            "Height Scale   : " + ShortestText(terrain.ScaleT()) + " m",
+            "Height Scale   : " + PlainText(terrain.ScaleT()) + " m",
             "Landscape Area : " + Format(width, "####### m"),
             "    ",
             "Note    ",

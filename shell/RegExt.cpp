@@ -16,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr auto desktopTool = "update-desktop-database";
+constexpr auto mimeTool = "update-mime-database";
 constexpr int toolTime = 60'000;  // milliseconds
 
 /// A folder of the user, as the XDG base directory rules say; only absolute paths count.
@@ -106,13 +107,15 @@ void Register(FileUndo& undo, const std::string& extension, const std::string& d
     defaults.Set("Default Applications", terrainType, name + ".desktop");
     undo.Write(config / "mimeapps.list", defaults.Text());
     RunTool(desktopTool, data / "applications");
-    RunTool("update-mime-database", data / "mime");
+    RunTool(mimeTool, data / "mime");
 }
 
 /// After files were put back: a list that was made in between would name what is gone.
 void ForgetListed() {
     try {
-        RunTool(desktopTool, UserFolder("XDG_DATA_HOME", ".local/share") / "applications");
+        const fs::path data = UserFolder("XDG_DATA_HOME", ".local/share");
+        RunTool(desktopTool, data / "applications");
+        RunTool(mimeTool, data / "mime");
     } catch (const Fault&) {
         return;
     }

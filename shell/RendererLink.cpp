@@ -51,7 +51,7 @@ bool Start(const QString& program, const QStringList& arguments) {
 
 void StartRenderer(const std::filesystem::path& folder, const std::string& file) {
     const QStringList arguments = {QStringLiteral("-t"), QString::fromStdString(file)};
-    std::string windowsProgram;
+    std::string reason;
     for (const char* name : {"terragen.exe", "terragen"}) {
         const std::filesystem::path path = FindInFolder(folder, name);
         std::error_code ignored;
@@ -61,17 +61,19 @@ void StartRenderer(const std::filesystem::path& folder, const std::string& file)
         // The system knows best what it can run.
         if (Start(program, arguments))
             return;
-        if (path.extension().empty())
+        if (path.extension().empty()) {
+            reason += "\r\nThe system does not run " + path.string();
             continue;
+        }
         const QString wine = QStandardPaths::findExecutable(QStringLiteral("wine"));
         if (!wine.isEmpty() && Start(wine, QStringList(program) + arguments))
             return;
-        windowsProgram = path.string();
+        reason += "\r\nThe system does not run " + path.string() +
+                  (wine.isEmpty() ? ", and wine is not installed" : ", and wine does not start");
     }
-    if (!windowsProgram.empty())
-        throw Fault("the system does not run " + windowsProgram + ", and wine is not installed",
-                    startFailed);
-    throw Fault(selectFolder, startFailed);
+    if (reason.empty())
+        reason = "\r\nThere is no terragen.exe and no terragen in " + folder.string();
+    throw Fault(selectFolder + reason, startFailed);
 }
 
 void StartTerragen(Session& session, Host& host, const std::function<void()>& saveUnnamed) {

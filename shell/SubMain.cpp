@@ -37,7 +37,9 @@ void ReadSettings(Session& session) {
     session.TerrainDirectory = settings.Get("Terrain", "Directory");
     session.ResizeMode = StartNumber(settings, "OptZoom", 2);
     session.PaletteRow = StartNumber(settings, "COLOR", paletteRows - 1);
-    if (!settings.Get("Start", "BackColor").empty())
+    // Negative numbers are colours of another system's desktop.
+    const std::string backColor = settings.Get("Start", "BackColor");
+    if (!backColor.empty() && Val(backColor) >= 0)
         session.BackColor = StartNumber(settings, "BackColor", 0xffffff);
     const std::string setFile = settings.Get("ELEVATOR", "Name");
     session.elevator.ElevatorSetFile =

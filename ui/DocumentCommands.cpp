@@ -1,6 +1,5 @@
 #include "ui/DocumentCommands.h"
 
-#include "base/Fault.h"
 #include "shell/TerrainCommands.h"
 #include "shell/vbConfig.h"
 #include "ui/FileDialogs.h"
@@ -14,12 +13,10 @@ namespace {
 constexpr int typeTer = 1;
 
 /// The folder for the next start. That it cannot be written must not make a save fail.
-void RememberFolder(const Session& session) {
-    try {
+void RememberFolder(QWidget* window, const Session& session) {
+    RunStep(window, QStringLiteral("Options"), [&] {
         vbConfig::WriteIni(session, "Terrain", "Directory", session.TerrainDirectory.string());
-    } catch (const Fault&) {
-        return;
-    }
+    });
 }
 
 }  // namespace
@@ -115,7 +112,7 @@ bool DocumentCommands::FileSave(int type) {
                                            .fileName = {}});
     if (chosen)
         session.TerrainDirectory = chosen->path.parent_path();
-    RememberFolder(session);
+    RememberFolder(workplace_.Window(), session);
     host.Busy(false);
     if (!chosen)
         return false;

@@ -202,8 +202,7 @@ void EffectsPanel::Refresh() {
     const clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
     const auto metres = [&](const QSlider* limit) {
         return ShownNumber([&] {
-            return ShortestText(
-                terrain.GetV2Meter(static_cast<float>(limit->value() - sliderZero)));
+            return PlainText(terrain.GetV2Meter(static_cast<float>(limit->value() - sliderZero)));
         });
     };
     txtZMin_->setText(metres(sldZMin_));

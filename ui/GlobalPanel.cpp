@@ -51,6 +51,16 @@ QString Shown(double number, const char* pattern) {
     return ShownNumber([&] { return Format(number, pattern); });
 }
 
+/// A field that was entered by Tab stays selected, for the next key to replace what it holds.
+void Renew(QLineEdit* field, const QString& text) {
+    if (field->text() == text)
+        return;
+    const bool wasSelected = field->hasSelectedText() && field->selectedText() == field->text();
+    field->setText(text);
+    if (wasSelected)
+        field->selectAll();
+}
+
 }  // namespace
 
 GlobalPanel::GlobalPanel(Workplace& workplace, QWidget* parent)
@@ -200,11 +210,11 @@ void GlobalPanel::Change(const QString& command, const std::function<void(clsTer
 void GlobalPanel::Refresh() {
     clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
     const double scale = terrain.ScaleT();
-    txtMetersPoint_->setText(Shown(STDIO::ClampValue(1.0, 100.0, scale), "#####.###"));
-    txtMinTerrain_->setText(Shown(terrain.MinTU() * scale, "#######0"));
-    txtMaxTerrain_->setText(Shown(terrain.MaxTU() * scale, "#######0"));
-    txtPlanetRadius_->setText(Shown(terrain.CRAD(), "#####0"));
-    txtTerSizeMeters_->setText(Shown(terrain.Size() * scale, "######0"));
+    Renew(txtMetersPoint_, Shown(STDIO::ClampValue(1.0, 100.0, scale), "#####.###"));
+    Renew(txtMinTerrain_, Shown(terrain.MinTU() * scale, "#######0"));
+    Renew(txtMaxTerrain_, Shown(terrain.MaxTU() * scale, "#######0"));
+    Renew(txtPlanetRadius_, Shown(terrain.CRAD(), "#####0"));
+    Renew(txtTerSizeMeters_, Shown(terrain.Size() * scale, "######0"));
     // What the terrain brings is no edit of the user's.
     oldSizeText_ = txtTerSizeMeters_->text();
     chkCurved_->setChecked(terrain.CRVM() != 0);

@@ -2,12 +2,10 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 
 #include <csignal>
-#include <functional>
 
-#include "base/Fault.h"
+#include "tests/support/Faults.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace quillbrand {
@@ -15,58 +13,35 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Lets no file grow beyond a few bytes, as a full disk does.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit small{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-  private:
-    rlimit before_{};
-};
-
-std::string FaultOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Fault& fault) {
-        return fault.what();
-    }
-    return "no fault";
-}
-
-TEST(ReplaceFile, WritesTheWholeContentAndLeavesNoTemporaryFile) {
+TEST(ReplaceFile, WritesTheWholeContentAndOnAFullDiskNothing) {
     const TemporaryFolder folder;
     WriteText(folder / "a", "a longer first content");
     WriteText(folder / "a", "second");
     EXPECT_EQ(TextOf(folder / "a"), "second");
-    EXPECT_EQ(folder.Entries(), 1);
-}
 
-TEST(ReplaceFile, OnAFullDiskKeepsTheOldFileAndNamesItInTheFault) {
-    const TemporaryFolder folder;
-    WriteText(folder / "a", "old");
-    std::string message;
-    {
-        const FullDisk disk(1000);
-        message = FaultOf([&] { WriteText(folder / "a", std::string(100000, 'x')); });
-    }
+    // No file grows beyond a few bytes, as on a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit small{1000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const std::string message = FaultOf([&] { WriteText(folder / "a", std::string(100000, 'x')); });
+    setrlimit(RLIMIT_FSIZE, &before);
     EXPECT_EQ(message, "cannot write " + (folder / "a").string() + ": File too large");
-    EXPECT_EQ(TextOf(folder / "a"), "old");
-    EXPECT_EQ(folder.Entries(), 1);
+    EXPECT_EQ(TextOf(folder / "a"), "second");
+    EXPECT_EQ(folder.Entries(), 1) << "no temporary file is left";
 }
 
-TEST(ReplaceFile, RefusesFoldersMissingFoldersAndDevices) {
+TEST(Files, SayWhatIsWrongWithFoldersMissingOnesAndDevices) {
     const TemporaryFolder folder;
-    const auto write = [](const fs::path& path) { return FaultOf([&] { WriteText(path, "x"); }); };
-    EXPECT_EQ(write(folder.Path()), "cannot write " + folder.Path().string() + ": Is a directory");
-    EXPECT_EQ(write(folder / "none/a"),
-              "cannot write " + (folder / "none/a").string() + ": No such file or directory");
-    EXPECT_EQ(write("/dev/full"), "cannot write /dev/full: Not a regular file");
+    const std::pair<fs::path, std::string> cases[] = {
+        {folder.Path(), folder.Path().string() + ": Is a directory"},
+        {folder / "none/a", (folder / "none/a").string() + ": No such file or directory"},
+        {"/dev/full", "/dev/full: Not a regular file"}};
+    for (const auto& [path, text] : cases) {
+        EXPECT_EQ(FaultOf([&] { WriteText(path, "x"); }), "cannot write " + text);
+        EXPECT_EQ(FaultOf([&] { ReadFile(path, 1); }), "cannot read " + text);
+    }
 }
 
 TEST(ReplaceFile, FollowsALinkAndKeepsThePermissionsOfTheOldFile) {
@@ -85,26 +60,19 @@ TEST(ReplaceFile, FollowsALinkAndKeepsThePermissionsOfTheOldFile) {
 
 TEST(OverwriteFile, KeepsTheTailOfALongerOldFile) {
     const TemporaryFolder folder;
-    const std::string abc = "abc";
-    const auto text = AsBytes(abc);
+    const Bytes text(3, std::byte{'x'});
     WriteText(folder / "a", "123456");
-    OverwriteFile(folder / "a", Bytes(text.begin(), text.end()));
-    EXPECT_EQ(TextOf(folder / "a"), "abc456");
-    OverwriteFile(folder / "b", Bytes(text.begin(), text.end()));
-    EXPECT_EQ(TextOf(folder / "b"), "abc");
+    OverwriteFile(folder / "a", text);
+    EXPECT_EQ(TextOf(folder / "a"), "xxx456");
+    OverwriteFile(folder / "b", text);
+    EXPECT_EQ(TextOf(folder / "b"), "xxx");
 }
 
-TEST(ReadFile, ReadsNoMoreThanAskedForAndTellsWhatIsWrong) {
+TEST(ReadFile, ReadsNoMoreThanAskedFor) {
     const TemporaryFolder folder;
     WriteText(folder / "a", "123456");
     EXPECT_EQ(ReadFile(folder / "a", 4).size(), 4u);
     EXPECT_EQ(ReadFile(folder / "a", 100).size(), 6u);
-    EXPECT_EQ(FaultOf([&] { ReadFile(folder.Path(), 1); }),
-              "cannot read " + folder.Path().string() + ": Is a directory");
-    EXPECT_EQ(FaultOf([&] { ReadFile(folder / "b", 1); }),
-              "cannot read " + (folder / "b").string() + ": No such file or directory");
-    EXPECT_EQ(FaultOf([] { ReadFile("/dev/zero", 1); }),
-              "cannot read /dev/zero: Not a regular file");
 }
 
 TEST(FindInFolder, TakesTheOtherSystemsSeparatorAndAnyCase) {

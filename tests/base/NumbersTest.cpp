@@ -4,9 +4,12 @@
 
 #include <clocale>
 #include <cmath>
+#include <random>
+#include <tuple>
 
 #include "base/Fault.h"
 #include "base/NumberText.h"
+#include "base/RandomSource.h"
 #include "base/Stdio.h"
 
 namespace quillbrand {
@@ -49,14 +52,12 @@ TEST(NumberText, HasALeadingBlankOnlyInStr) {
 }
 
 TEST(Format, FollowsThePatternInEveryLocale) {
-    EXPECT_EQ(Format(30, "#####.###"), "30.");
-    EXPECT_EQ(Format(0.25, "#####.###"), ".25");
-    EXPECT_EQ(Format(-300, "#######0"), "-300");
-    EXPECT_EQ(Format(-0.2, "#######0"), "0");
-    EXPECT_EQ(Format(1, "###.##%"), "100.%");
-    EXPECT_EQ(Format(0.3505, "###.##%"), "35.05%");
-    EXPECT_EQ(Format(37 / 100.0, "### %"), "37 %");
-    EXPECT_EQ(Format(1234567, "###"), "1234567");
+    const std::tuple<double, const char*, std::string> cases[] = {
+        {30, "#####.###", "30."}, {0.25, "#####.###", ".25"}, {-300, "#######0", "-300"},
+        {-0.2, "#######0", "0"},  {1, "###.##%", "100.%"},    {0.3505, "###.##%", "35.05%"},
+        {0.37, "### %", "37 %"},  {1234567, "###", "1234567"}};
+    for (const auto& [value, pattern, text] : cases)
+        EXPECT_EQ(Format(value, pattern), text);
 }
 
 TEST(ClampValue, LetsTheUpperEndWinAndTiesTakeTheLast) {
@@ -75,6 +76,36 @@ TEST(NumberFields, TakeDigitsOneCommaAndNoPoint) {
     std::string box = "123 metres";
     EXPECT_EQ(STDIO::ClampTextBox(box, 100, 1), 100);
     EXPECT_EQ(box, "100");
+}
+
+TEST(RandomSource, GivesTheTwistersOwnSequenceHoweverItIsDrawn) {
+    std::mt19937 twister(123456);
+    RandomSource source(123456);
+    const auto expected = [&] { return static_cast<double>(twister()) / 4294967296.0; };
+    // Draws of all kinds, across the borders of several blocks.
+    for (const std::size_t count : {1u, 623u, 624u, 2000u, 5u, 1248u, 0u, 700u}) {
+        EXPECT_EQ(source.Uniform(), expected());
+        std::vector<double> drawn(count);
+        source.Fill(drawn);
+        for (std::size_t i = 0; i < count; ++i)
+            ASSERT_EQ(drawn[i], expected());
+        source.Discard(count);
+        twister.discard(count);
+    }
+}
+
+TEST(RandomSource, IgnoresTheClockOnlyWhenFixed) {
+    RandomSource fixed(7);
+    RandomSource twin(7);
+    fixed.ReseedFromClock();
+    EXPECT_EQ(fixed.Uniform(), twin.Uniform());
+
+    RandomSource free;
+    const double before = free.Uniform();
+    free.ReseedFromClock();
+    const double once = free.Uniform();
+    free.ReseedFromClock();
+    EXPECT_TRUE(once != before || free.Uniform() != before);
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 
 #include <QBuffer>
 
-#include "base/Fault.h"
+#include "tests/support/Faults.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace quillbrand {
@@ -65,14 +65,9 @@ TEST(Picture, RefusesAFileThatIsCutShortAnywhere) {
 TEST(Picture, NamesAFileThatIsNone) {
     const TemporaryFolder folder;
     WriteText(folder / "a.png", "no picture at all");
-    try {
-        Picture::Load(folder / "a.png");
-        FAIL();
-    } catch (const Fault& fault) {
-        EXPECT_EQ(std::string(fault.what()),
-                  (folder / "a.png").string() +
-                      " is no picture that can be read (BMP, DIB, JPEG, GIF, ICO, PNG)");
-    }
+    EXPECT_EQ(FaultOf([&] { Picture::Load(folder / "a.png"); }),
+              (folder / "a.png").string() +
+                  " is no picture that can be read (BMP, DIB, JPEG, GIF, ICO, PNG)");
 }
 
 }  // namespace

@@ -10,14 +10,11 @@ namespace quillbrand {
 namespace {
 
 TEST(HeightToPaletteIndex, HasBandsOf256HeightsAndEnds) {
-    EXPECT_EQ(HeightToPaletteIndex(-32768), 0);
-    EXPECT_EQ(HeightToPaletteIndex(-32513), 0);
-    EXPECT_EQ(HeightToPaletteIndex(-32512), 1);
-    EXPECT_EQ(HeightToPaletteIndex(0), 128);
-    EXPECT_EQ(HeightToPaletteIndex(32767), 255);
-    EXPECT_EQ(HeightToPaletteIndex(-40000), 0);
-    EXPECT_EQ(HeightToPaletteIndex(2147483647), 255);
-    EXPECT_EQ(HeightToPaletteIndex(-2147483647 - 1), 0);
+    const std::pair<Height, int> cases[] = {{-2147483647 - 1, 0}, {-40000, 0},      {-32768, 0},
+                                            {-32513, 0},          {-32512, 1},      {0, 128},
+                                            {32767, 255},         {2147483647, 255}};
+    for (const auto& [height, index] : cases)
+        EXPECT_EQ(HeightToPaletteIndex(height), index) << height;
 }
 
 TEST(PaletteTable, HasTheGivenColoursAndStraightRampsBetweenThem) {
@@ -31,9 +28,7 @@ TEST(PaletteTable, HasTheGivenColoursAndStraightRampsBetweenThem) {
 TEST(HeightPicture, HasOnePixelAPointInTheColourOfItsHeight) {
     RandomSource chance(4);
     RecordingHost host;
-    clsTerrain terrain;
-    terrain.Init(37);
-    FillWithChance(terrain, -50000, 50000, chance);
+    clsTerrain terrain = RandomGrid(37, -50000, 50000, chance);
     Picture raster;
     for (int row = 0; row < paletteRows; ++row) {
         BuildHeightPicture(raster, terrain, row, host);

@@ -4,7 +4,7 @@
 #include "effects/QBTools2.h"
 #include "tests/support/Grids.h"
 #include "tests/support/RecordingHost.h"
-#include "tests/support/SlowEffects.h"
+#include "tests/support/SlowTwins.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace quillbrand {
@@ -30,11 +30,11 @@ class ElevatorTest : public ::testing::Test {
     /// Runs the armed effect.
     void Shift(clsTerrain& terrain, const Area& area) {
         elevator_.grid.Arm(true);
-        float strength = 1;
-        RecordingHost host;
-        QBFilter::FilterElevatorShift(terrain, strength, area, elevator_, host);
+        QBFilter::FilterElevatorShift(terrain, strength_, area, elevator_, host_);
     }
 
+    float strength_ = 1;
+    RecordingHost host_;
     TemporaryFolder folder_;
     Elevator elevator_;
 };
@@ -107,12 +107,10 @@ TEST_F(ElevatorTest, OpensWithTheLineWhereTheSetsFileIsMissingOrShort) {
 TEST_F(ElevatorTest, ShiftsOnlyWhenArmedAndStaysSo) {
     clsTerrain terrain = GridFrom("-32000 0 / 1 20000");
     const auto before = AllCells(terrain);
-    RecordingHost host;
-    float strength = 1;
-    QBFilter::FilterElevatorShift(terrain, strength, {.extent = 2}, elevator_, host);
+    QBFilter::FilterElevatorShift(terrain, strength_, {.extent = 2}, elevator_, host_);
     EXPECT_EQ(AllCells(terrain), before);
-    EXPECT_EQ(host.statuses.back(), "Elevator shift...");
-    EXPECT_TRUE(host.progress.empty());
+    EXPECT_EQ(host_.statuses.back(), "Elevator shift...");
+    EXPECT_TRUE(host_.progress.empty());
     DrawLevel(192);
     Shift(terrain, {.extent = 2});
     EXPECT_EQ(TextOf(terrain), "256 0 / 1 32") << "512 * 64 with what 512 leaves of the height";
@@ -127,17 +125,14 @@ TEST_F(ElevatorTest, RepeatsThePointBeforeWhereTheStraightLineHasNoMark) {
 
 TEST_F(ElevatorTest, AgreesWithTheSlowTwinOnRandomCurvesAreasAndLimits) {
     RandomSource chance(3);
-    const auto any = [&](int low, int high) {
-        return low + static_cast<int>(chance.Uniform() * (high - low + 1));
-    };
+    const auto any = [&](int low, int high) { return AnyOf(low, high, chance); };
     for (int turn = 0; turn < 300; ++turn) {
         elevator_.grid.Clear();
         for (int marks = any(1, 600); marks > 0; --marks)
             elevator_.grid(any(0, 256), any(0, 256)) = 1;
         elevator_.grid(0, 0) = 0;
-        clsTerrain fast;
-        fast.Init(any(1, 80));
-        FillWithChance(fast, -33024, turn % 2 == 0 ? 32767 : 98560, chance);
+        const int points = any(1, 80);
+        clsTerrain fast = RandomGrid(points, -33024, turn % 2 == 0 ? 32767 : 98560, chance);
         Area area{.extent = fast.XPoints()};
         if (turn % 3 == 1)
             area = {any(0, 100), any(-30, 60), any(-30, 60)};
@@ -147,9 +142,7 @@ TEST_F(ElevatorTest, AgreesWithTheSlowTwinOnRandomCurvesAreasAndLimits) {
         Shift(fast, area);
         elevator_.grid.Arm(false);
         SlowTwins::FilterElevatorShift(slow, area, elevator_.grid);
-        ASSERT_TRUE(AllCells(fast) == AllCells(slow)) << turn;
-        ASSERT_EQ(fast.min(), slow.min()) << turn;
-        ASSERT_EQ(fast.max(), slow.max()) << turn;
+        ASSERT_TRUE(SameGrid(fast, slow)) << turn;
     }
 }
 

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "base/Fault.h"
 #include "effects/Gauss.h"
 #include "terrain/ScaleTerrainStep.h"
+#include "tests/support/Faults.h"
 #include "tests/support/Grids.h"
 #include "tests/support/RecordingHost.h"
-#include "tests/support/SlowEffects.h"
+#include "tests/support/SlowTwins.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace quillbrand {
@@ -52,9 +52,7 @@ TEST_F(RiverTest, AgreesWithTheSlowTwinOnGridsSmallerAndLargerThanThePicture) {
     WritePicture(1025, 1025);
     RandomSource chance(5);
     for (const int points : {2, 60, 257, 300, 1025, 1026, 1027, 1200}) {
-        clsTerrain fast;
-        fast.Init(points);
-        FillWithChance(fast, -40000, 40000, chance);
+        clsTerrain fast = RandomGrid(points, -40000, 40000, chance);
         const Area areas[] = {{.extent = points}, {points / 2, -3, points / 2 + 3, 0, 1}};
         for (const Area& area : areas) {
             const float strength = static_cast<float>(points % 21) / 2;
@@ -63,9 +61,7 @@ TEST_F(RiverTest, AgreesWithTheSlowTwinOnGridsSmallerAndLargerThanThePicture) {
             const int offset =
                 points < 1025 ? static_cast<int>(RoundHalfEven((1026 - points) / 2.0)) : 0;
             SlowTwins::FilterRiverErosion(slow, strength, area, picture_, offset);
-            ASSERT_TRUE(AllCells(fast) == AllCells(slow)) << points;
-            ASSERT_EQ(fast.min(), slow.min()) << points;
-            ASSERT_EQ(fast.max(), slow.max()) << points;
+            ASSERT_TRUE(SameGrid(fast, slow)) << points;
         }
     }
 }
@@ -105,24 +101,16 @@ TEST_F(RiverTest, FailsWithoutAPictureAndAtAStrengthOfEleven) {
     EXPECT_THROW(Erode(terrain, 0, {.extent = 2}), Fault) << "5957 + 3 is what it may add";
     terrain.SetPoint(0, 0, 1);
     bed_.ErodePictureName.clear();
-    try {
-        Erode(terrain, 1, {.extent = 2});
-        FAIL();
-    } catch (const Fault& fault) {
-        EXPECT_NE(std::string(fault.what()).find("erode0.flt"), std::string::npos) << fault.what();
-    }
+    const std::string fault = FaultOf([&] { Erode(terrain, 1, {.extent = 2}); });
+    EXPECT_NE(fault.find("erode0.flt"), std::string::npos) << fault;
     EXPECT_EQ(TextOf(terrain), "1 2 / 3 4");
 }
 
 TEST(NaturalErosion, AgreesWithTheSlowTwinOnRandomHillsAndLimits) {
     for (int turn = 0; turn < 40; ++turn) {
         RandomSource chance(static_cast<std::uint32_t>(turn));
-        const auto any = [&](int low, int high) {
-            return low + static_cast<int>(chance.Uniform() * (high - low + 1));
-        };
-        clsTerrain fast;
-        fast.Init(any(2, 90));
-        FillWithChance(fast, -32767, 32767, chance);
+        const auto any = [&](int low, int high) { return AnyOf(low, high, chance); };
+        clsTerrain fast = RandomGrid(2 + 7 * turn % 89, -32767, 32767, chance);
         for (int x = 0; x <= fast.Size() + 2; ++x)
             for (int y = 0; y <= fast.Size() + 2; ++y)
                 fast.SetPoint(x, y, fast.GetPoint(x, y) / any(1, 9) + x * any(0, 300) - y * y);
@@ -141,9 +129,7 @@ TEST(NaturalErosion, AgreesWithTheSlowTwinOnRandomHillsAndLimits) {
         RandomSource other(7);
         SlowTwins::FilterNaturalErosion(slow, area, settings, other);
         ASSERT_EQ(strength, 1000.0f);
-        ASSERT_TRUE(AllCells(fast) == AllCells(slow)) << turn;
-        ASSERT_EQ(fast.min(), slow.min()) << turn;
-        ASSERT_EQ(fast.max(), slow.max()) << turn;
+        ASSERT_TRUE(SameGrid(fast, slow)) << turn;
         ASSERT_EQ(host.chance.Uniform(), other.Uniform()) << turn;
     }
 }

@@ -26,23 +26,16 @@ class ProgramFolder : public testing::Test {
                                .installed = folder / "installed"};
 };
 
-TEST_F(ProgramFolder, IsTheToldOneBeforeAllOthers) {
-    fs::create_directories(folder / "bin/PS");
-    places.told = folder / "installed";
-    EXPECT_EQ(FindProgramFolder(places), folder / "installed");
-}
-
-TEST_F(ProgramFolder, MustExistWhenTold) {
-    places.told = folder / "nowhere";
-    EXPECT_THROW(FindProgramFolder(places), Fault);
-    places.told = folder / "installed/erode0.flt";
-    EXPECT_THROW(FindProgramFolder(places), Fault);
-}
-
-TEST_F(ProgramFolder, IsTheExecutablesWhenThatHoldsTheSets) {
+TEST_F(ProgramFolder, IsTheToldOneThenTheExecutablesWhenThatHoldsTheSets) {
     fs::create_directories(folder / "bin/PS");
     EXPECT_EQ(FindProgramFolder(places), folder / "bin");
     EXPECT_FALSE(fs::exists(places.own));
+    places.told = folder / "installed";
+    EXPECT_EQ(FindProgramFolder(places), folder / "installed");
+    for (const char* name : {"nowhere", "installed/erode0.flt"}) {
+        places.told = folder / name;
+        EXPECT_THROW(FindProgramFolder(places), Fault) << name;
+    }
 }
 
 TEST_F(ProgramFolder, IsOtherwiseTheUsersOwnFilledWithWhatItLacks) {
@@ -66,13 +59,11 @@ TEST_F(ProgramFolder, KeepsTheUsersFilesWhenAFirstStartWasCutShort) {
     EXPECT_EQ(std::distance(fs::directory_iterator(places.own), {}), 2);
 }
 
-TEST_F(ProgramFolder, IsMadeEvenWhereNothingIsInstalled) {
+TEST_F(ProgramFolder, IsMadeEvenWhereNothingIsInstalledOrTheReasonIsTold) {
     places.installed = folder / "nowhere";
     EXPECT_EQ(FindProgramFolder(places), places.own);
     EXPECT_TRUE(fs::is_directory(places.own));
-}
-
-TEST_F(ProgramFolder, SaysWhyItCannotBeMade) {
+    fs::remove_all(folder / "home");
     WriteText(folder / "home", "a file");
     EXPECT_THROW(FindProgramFolder(places), Fault);
     places.own.clear();

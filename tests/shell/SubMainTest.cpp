@@ -4,7 +4,6 @@
 
 #include "base/Fault.h"
 #include "shell/vbConfig.h"
-#include "tests/support/NoiseSet.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace quillbrand {
@@ -22,22 +21,6 @@ struct Started {
     }
 };
 
-TEST(SubMain, StartsFlatAndEmptyWithTheWindowFromMinus10To30) {
-    Started started("");
-    clsTerrain& terrain = started.session.CurrentTerrain;
-    EXPECT_EQ(terrain.XPoints(), 257);
-    EXPECT_EQ(terrain.ScaleT(), 30.0f);
-    EXPECT_EQ(terrain.HeightScale(), 40);
-    EXPECT_EQ(terrain.BaseHeight(), 10);
-    EXPECT_EQ(terrain.MinTU(), -10);
-    EXPECT_EQ(terrain.MaxTU(), 30);
-    EXPECT_EQ(terrain.min(), 0);
-    EXPECT_EQ(terrain.max(), 0);
-    EXPECT_TRUE(started.session.TerrainEmpty);
-    EXPECT_EQ(started.session.CurrentFile, "noname");
-    EXPECT_TRUE(started.session.PerlinSets.rows.empty());
-}
-
 TEST(SubMain, StartsWithAStraightElevatorOverTheSetsOfTheSettings) {
     const Started named("[elevator]\nNAME=sub\\curves.dat\n");
     const Elevator& elevator = named.session.elevator;
@@ -50,13 +33,9 @@ TEST(SubMain, StartsWithAStraightElevatorOverTheSetsOfTheSettings) {
 }
 
 TEST(SubMain, TakesTheGridFromTheSettings) {
-    for (const auto& [optTer, points] : std::vector<std::pair<std::string, int>>{{"0", 129},
-                                                                                 {" 2", 513},
-                                                                                 {"3", 1025},
-                                                                                 {"4", 2049},
-                                                                                 {"5", 257},
-                                                                                 {"44", 257},
-                                                                                 {"x", 257}})
+    const std::pair<std::string, int> cases[] = {{"0", 129}, {" 2", 513}, {"3", 1025}, {"4", 2049},
+                                                 {"5", 257}, {"44", 257}, {"x", 257}};
+    for (const auto& [optTer, points] : cases)
         EXPECT_EQ(Started("[start]\nopTter=" + optTer).session.CurrentTerrain.XPoints(), points)
             << optTer;
 }
@@ -83,16 +62,6 @@ TEST(SubMain, KeepsOnlyAStartFileThatExists) {
     WriteText(folder / "hill.ter", "");
     EXPECT_EQ(Started("", folder / "hill.ter").session.StartFile, folder / "hill.ter");
     EXPECT_EQ(Started("", folder / "none.ter").session.StartFile, "");
-}
-
-TEST(SubMain, ListsThePerlinSets) {
-    const TemporaryFolder folder;
-    WriteNoiseSet(folder / "PS", "Dots", 8);
-    RandomSource chance(1);
-    Session session;
-    SubMain(session, folder.Path(), "", chance);
-    ASSERT_EQ(session.PerlinSets.ListedRows(), 1);
-    EXPECT_EQ(session.PerlinSets.rows[0].name, "Dots");
 }
 
 TEST(vbConfig, ReadsBackTrimmedWhatItWrote) {

@@ -33,6 +33,10 @@ std::string TextOf(const clsTerrain& terrain) {
     return text;
 }
 
+int AnyOf(int low, int high, RandomSource& chance) {
+    return low + static_cast<int>(chance.Uniform() * (high - low + 1));
+}
+
 void FillWithChance(clsTerrain& terrain, Height low, Height high, RandomSource& chance) {
     for (int y = 0; y <= terrain.Size() + 2; ++y)
         for (int x = 0; x <= terrain.Size() + 2; ++x)
@@ -42,11 +46,30 @@ void FillWithChance(clsTerrain& terrain, Height low, Height high, RandomSource& 
     terrain.Range();
 }
 
+clsTerrain RandomGrid(int points, Height low, Height high, RandomSource& chance) {
+    clsTerrain terrain;
+    terrain.Init(points);
+    FillWithChance(terrain, low, high, chance);
+    return terrain;
+}
+
 std::vector<Height> AllCells(const clsTerrain& terrain) {
     std::vector<Height> cells;
     for (int y = 0; y <= terrain.Size() + 2; ++y)
         cells.insert(cells.end(), terrain.Row(y).begin(), terrain.Row(y).end());
     return cells;
+}
+
+bool SameGrid(const clsTerrain& one, const clsTerrain& other) {
+    return AllCells(one) == AllCells(other) && one.min() == other.min() && one.max() == other.max();
+}
+
+std::string HeaderText(const clsTerrain& terrain) {
+    std::ostringstream text;
+    text << "XPoints " << terrain.XPoints() << " ScaleT " << terrain.ScaleT() << " CRAD "
+         << terrain.CRAD() << " CRVM " << terrain.CRVM() << " HeightScale " << terrain.HeightScale()
+         << " BaseHeight " << terrain.BaseHeight();
+    return text.str();
 }
 
 }  // namespace quillbrand

@@ -19,7 +19,14 @@ class RecordingHost : public Host {
     void Progress(int percent) override { progress.push_back(percent); }
     void Yield() override { ++yields; }
     void ActualScreen() override { ++screens; }
-    Answer Ask(const Question& question) override;
+    Answer Ask(const Question& question) override {
+        questions.push_back(question);
+        if (answers.empty())
+            return Answer::No;
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
     RandomSource& Chance() override { return chance; }
 
     std::vector<std::string> statuses;

@@ -78,7 +78,7 @@ TEST_F(Landscape, WritesTheEndsOfTheHeightsWhenTheirFieldsAreLeft) {
     EXPECT_EQ(Leave(), QStringList());
     EXPECT_EQ(terrain_.MinTU(), -20);
     EXPECT_EQ(window_->focusWidget()->objectName(), "txtMaxTerrain");
-    Type("txtMaxTerrain", "99999999");
+    QTest::keyClicks(window_->focusWidget(), "99999999");
     EXPECT_EQ(Leave({Press("OK")}),
               QStringList("max. heigth of Terrain in meters: a height of 99999999 m does not fit: "
                           "with 30 m per point it must lie within -983040 to 983010 m, and no more "

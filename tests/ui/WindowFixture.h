@@ -74,7 +74,7 @@ class WindowFixture : public ::testing::Test {
     /// Shows the tab with that caption.
     void ShowTab(const char* caption);
 
-    /// Produces a 129-point terrain with the given seed by the controls.
+    /// Produces a relief of 128 intervals with the given seed by the controls.
     void Produce(const char* seed);
 
     std::vector<Height> Heights();

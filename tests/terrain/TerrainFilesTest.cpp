@@ -2,9 +2,10 @@
 
 #include <cstring>
 
-#include "base/Fault.h"
+#include "terrain/Backup.h"
 #include "terrain/TerWriter.h"
 #include "terrain/mTerLoad.h"
+#include "tests/support/Faults.h"
 #include "tests/support/Grids.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/TemporaryFolder.h"
@@ -36,15 +37,6 @@ class TerFile : public ::testing::Test {
         return mTerLoad::LoadTerrain(path_, terrain_, memory_, host_);
     }
 
-    std::string FaultOfLoad() {
-        try {
-            Load();
-        } catch (const Fault& fault) {
-            return fault.what();
-        }
-        return "no fault";
-    }
-
     TemporaryFolder folder_;
     std::filesystem::path path_ = folder_ / "a.ter";
     RecordingHost host_;
@@ -56,8 +48,7 @@ class TerFile : public ::testing::Test {
 TEST_F(TerFile, HasTheChunksAtTheirPlacesAndTheBottomRowFirst) {
     EXPECT_EQ(text_.size(), 80u + 2 * 16 + 4);
     EXPECT_EQ(text_.substr(0, 24), std::string("TERRAGENTERRAIN SIZE\x03\0\0\0", 24));
-    EXPECT_EQ(text_.substr(24, 6), std::string("XPTS\x04\0", 6));
-    EXPECT_EQ(text_.substr(30, 8), std::string("\0\0YPTS\x04\0", 8));
+    EXPECT_EQ(text_.substr(24, 16), std::string("XPTS\x04\0\0\0YPTS\x04\0\0\0", 16));
     EXPECT_EQ(text_.substr(40, 4), "SCAL");
     float scale[3];
     std::memcpy(scale, &text_[44], sizeof scale);
@@ -73,11 +64,8 @@ TEST_F(TerFile, HasTheChunksAtTheirPlacesAndTheBottomRowFirst) {
 TEST_F(TerFile, ComesBackWithAllItsValues) {
     EXPECT_TRUE(Load());
     EXPECT_EQ(TextOf(terrain_), "-30000 2 3 4 / 5 6 7 8 / 9 10 11 12 / 13 14 15 30000");
-    EXPECT_EQ(terrain_.ScaleT(), 20.0f);
-    EXPECT_EQ(terrain_.HeightScale(), 77);
-    EXPECT_EQ(terrain_.BaseHeight(), -3);
-    EXPECT_EQ(terrain_.CRVM(), 1);
-    EXPECT_EQ(terrain_.CRAD(), 1234.0f);
+    EXPECT_EQ(HeaderText(terrain_),
+              "XPoints 4 ScaleT 20 CRAD 1234 CRVM 1 HeightScale 77 BaseHeight -3");
     EXPECT_EQ(terrain_.min(), -30000);
     EXPECT_EQ(terrain_.max(), 30000);
     EXPECT_FALSE(host_.isBusy);
@@ -92,41 +80,31 @@ TEST_F(TerFile, FindsChunksInAnyOrderAndHasDefaultsForMissingOnes) {
     text_.replace(text_.find("CRAD"), 4, "XXXX");
     text_.replace(text_.find("SCAL"), 4, "XXXX");
     EXPECT_TRUE(Load());
-    EXPECT_EQ(terrain_.CRAD(), 6370.0f);
-    EXPECT_EQ(terrain_.ScaleT(), 30.0f);
-    EXPECT_EQ(terrain_.CRVM(), 1);
-    EXPECT_EQ(terrain_.HeightScale(), 77);
-}
-
-TEST_F(TerFile, RemembersTheCurvatureOfTheLastFileThatToldIt) {
-    EXPECT_TRUE(Load());
+    EXPECT_EQ(HeaderText(terrain_),
+              "XPoints 4 ScaleT 30 CRAD 6370 CRVM 1 HeightScale 77 BaseHeight -3");
     terrain_.CRVM(0);
     text_.replace(text_.find("CRVM"), 4, "XXXX");
     EXPECT_TRUE(Load());
-    EXPECT_EQ(terrain_.CRVM(), 1);
+    EXPECT_EQ(terrain_.CRVM(), 1) << "of the last file that told it";
 }
 
-TEST_F(TerFile, WithoutAltwHasItsSamplesAtTheEighthByte) {
+TEST_F(TerFile, TakesItsPointsFromXptsAndWithoutAltwItsSamplesFromTheEighthByte) {
+    SetShort(28, 3);
+    EXPECT_TRUE(Load());
+    EXPECT_EQ(TextOf(terrain_), "11 12 5 / 30000 9 10 / 13 14 15");
+    SetShort(28, 4);
     text_.replace(text_.find("ALTW"), 4, "XXXX");
     EXPECT_TRUE(Load());
     EXPECT_EQ(terrain_.HeightScale(), 30);
     EXPECT_EQ(terrain_.BaseHeight(), 5);
-    // Bytes 7 and 8 of the magic, "N" and "T", are the first sample: bottom left.
-    EXPECT_EQ(terrain_.GetPoint(0, 3), 'N' + 256 * 'T');
-}
-
-TEST_F(TerFile, TakesTheNumberOfPointsFromXptsWhereTheTwoDisagree) {
-    SetShort(28, 3);
-    EXPECT_TRUE(Load());
-    EXPECT_EQ(terrain_.XPoints(), 3);
-    EXPECT_EQ(terrain_.GetPoint(0, 2), 13);
-    EXPECT_EQ(terrain_.GetPoint(0, 1), 30000);
+    EXPECT_EQ(terrain_.GetPoint(0, 3), 'N' + 256 * 'T') << "of the magic, at the bottom left";
 }
 
 TEST_F(TerFile, LeavesTheTerrainAloneWhenItIsDamaged) {
     const std::string whole = text_;
     const auto expectFault = [&](const std::string& part) {
-        EXPECT_NE(FaultOfLoad().find(part), std::string::npos) << part << " | " << FaultOfLoad();
+        const std::string fault = FaultOf([&] { Load(); });
+        EXPECT_NE(fault.find(part), std::string::npos) << part << " | " << fault;
         EXPECT_EQ(TextOf(terrain_), "9 8 / 7 6");
         EXPECT_EQ(terrain_.HeightScale(), 30);
         text_ = whole;
@@ -158,25 +136,10 @@ TEST_F(TerFile, IsNoneWithoutTheMagicAndTheRefineQuestionComesAllTheSame) {
               "(Attention: Other height value could arise than in the original file!)");
 }
 
-TEST_F(TerFile, IsRefinedOnlyWhenTheUserSaysYes) {
-    SetShort(86, 0);
-    const auto load = [&](Answer answer) {
-        host_.answers = {answer};
-        EXPECT_TRUE(Load());
-        return terrain_.Range();
-    };
-    EXPECT_EQ(load(Answer::No), 30015);
-    EXPECT_GT(load(Answer::Yes), 65000);
-}
-
 TEST_F(TerFile, IsNotWrittenWhenAHeightLeaves16Bits) {
     clsTerrain terrain = GridFrom("1 2 / 3 32768");
-    try {
-        SaveT(terrain, path_, host_);
-        FAIL();
-    } catch (const Fault& fault) {
-        EXPECT_NE(std::string(fault.what()).find("the height 32768 at 1,1"), std::string::npos);
-    }
+    const std::string fault = FaultOf([&] { SaveT(terrain, path_, host_); });
+    EXPECT_NE(fault.find("the height 32768 at 1,1"), std::string::npos) << fault;
     EXPECT_EQ(TextOf(path_), text_);
 }
 
@@ -189,6 +152,47 @@ TEST_F(TerFile, OfTheLargestSizeLoadsAndTheNextDoesNot) {
     EXPECT_TRUE(mTerLoad::LoadTerrain(path_, terrain_, memory_, host_));
     EXPECT_EQ(terrain_.Size(), 2049);
     EXPECT_EQ(terrain_.GetPoint(2049, 2049), -32767);
+}
+
+TEST(Backup, BringsBackHeightsMarginAndHeaderIntoATerrainOfAnotherSize) {
+    const TemporaryFolder folder;
+    RandomSource chance(4);
+    clsTerrain saved = RandomGrid(9, -2000000, 2000000, chance);
+    saved.ScaleT(12.5f);
+    saved.CRAD(1000);
+    saved.CRVM(1);
+    saved.HeightScale(77);
+    saved.BaseHeight(-5);
+    SaveBackup(saved, folder / "b.qbt");
+    EXPECT_EQ(Contents(folder / "b.qbt").size(), 80u + 4 * 11 * 11);
+
+    clsTerrain terrain;
+    LoadBackup(terrain, folder / "b.qbt");
+    EXPECT_TRUE(AllCells(terrain) == AllCells(saved));
+    EXPECT_EQ(HeaderText(terrain),
+              "XPoints 9 ScaleT 12.5 CRAD 1000 CRVM 1 HeightScale 77 BaseHeight -5");
+    EXPECT_EQ(terrain.max(), -400000);
+    EXPECT_EQ(terrain.Range(), saved.Range());
+}
+
+TEST(Backup, HasOnlyTheMagicAmongItsTagsAndIsRefusedWhenCutShortOrForeign) {
+    const TemporaryFolder folder;
+    SaveBackup(GridFrom("1 2 / 3 4"), folder / "b.qbt");
+    const std::string whole = TextOf(folder / "b.qbt");
+    EXPECT_EQ(whole.substr(0, 20), "TERRAGENTERRAIN SIZE");
+    EXPECT_EQ(whole.substr(22, 6), std::string(6, '\0'));
+    EXPECT_EQ(whole.substr(70, 6), std::string(6, '\0'));
+
+    std::string negativeSize = whole;
+    negativeSize[21] = '\xff';
+    clsTerrain terrain = GridFrom("9 8 / 7 6");
+    for (const std::string& damaged :
+         {std::string(), whole.substr(0, 79), whole.substr(0, whole.size() - 1),
+          "X" + whole.substr(1), negativeSize}) {
+        WriteText(folder / "b.qbt", damaged);
+        EXPECT_THROW(LoadBackup(terrain, folder / "b.qbt"), Fault) << damaged.size();
+        EXPECT_EQ(TextOf(terrain), "9 8 / 7 6");
+    }
 }
 
 }  // namespace

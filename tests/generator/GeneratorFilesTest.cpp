@@ -1,9 +1,11 @@
-#include "generator/PerlinSets.h"
-
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "base/Fault.h"
+#include "generator/GeneratorSettings.h"
 #include "generator/PerlinSetFile.h"
+#include "generator/PerlinSets.h"
 #include "tests/support/Grids.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/support/TemporaryFolder.h"
@@ -23,9 +25,8 @@ TEST(PerlinSets, StandInTheOrderOfTheirFileNamesAndEndAtAnEmptyName) {
     ASSERT_EQ(table.rows.size(), 4u);
     EXPECT_EQ(table.rows[0].name, "Alpha");
     EXPECT_EQ(table.rows[1].name, "Beta");
-    EXPECT_EQ(table.rows[1].pictures[0], "b1.png");
-    EXPECT_EQ(table.rows[1].pictures[1], "");
-    EXPECT_EQ(table.rows[1].pictures[4], "b5.png");
+    const std::string pictures[] = {"b1.png", "", "", "", "b5.png"};
+    EXPECT_TRUE(std::ranges::equal(table.rows[1].pictures, pictures));
     EXPECT_EQ(table.ListedRows(), 2);
     EXPECT_EQ(table.FindRow(" beta"), 1);
     EXPECT_EQ(table.FindRow("Omega"), -1);
@@ -47,6 +48,7 @@ TEST(PerlinSetFile, HoldsTheScaledGridWithItsMarginAndACutName) {
     const TemporaryFolder folder;
     RecordingHost host;
     clsTerrain terrain = GridFrom("-100 2 3 / 4 5 6 / 7 8 100");
+    terrain.SetPoint(4, 4, 100000);
     SavePerlinSet(terrain, folder / "a.QPS", "A name of thirty characters, no", host);
     const std::string text = TextOf(folder / "a.QPS");
     ASSERT_EQ(text.size(), 61u + 2 * 13 * 13);
@@ -60,19 +62,56 @@ TEST(PerlinSetFile, HoldsTheScaledGridWithItsMarginAndACutName) {
     EXPECT_EQ(cell(2, 1), terrain.GetPoint(2, 1));
     EXPECT_GT(terrain.Range(), 60000);
     EXPECT_EQ(cell(5, 5), 0);
-}
+    EXPECT_EQ(cell(4, 4), 32767) << "the margin is limited";
 
-TEST(PerlinSetFile, LimitsTheMarginButNoHeightOfTheTerrain) {
-    const TemporaryFolder folder;
-    RecordingHost host;
-    clsTerrain terrain = GridFrom("-100 2 3 / 4 5 6 / 7 8 100");
-    terrain.SetPoint(4, 4, 100000);
-    SavePerlinSet(terrain, folder / "a.QPS", "margin", host);
-    EXPECT_EQ(TextOf(folder / "a.QPS").substr(61 + 2 * (13 * 4 + 4), 2), "\xff\x7f");
     terrain.FixHeight(true);  // which puts the cell 1,1 back as it was
     terrain.SetPoint(1, 1, 100000);
     EXPECT_THROW(SavePerlinSet(terrain, folder / "b.QPS", "cell", host), Fault);
     EXPECT_FALSE(std::filesystem::exists(folder / "b.QPS"));
+}
+
+/// What is stored again after a settings file with these keys was read for a list of four sets.
+std::string StoredAfter(const std::string& keys) {
+    const TemporaryFolder folder;
+    WriteText(folder / "in.par", "[Generator]\n" + keys);
+    const auto [settings, modify] = LoadGeneratorSettings(folder / "in.par", 2, 4);
+    SaveGeneratorSettings(folder / "out.par", settings, modify);
+    return TextOf(folder / "out.par").substr(std::string("[Generator]\n").size());
+}
+
+TEST(GeneratorSettings, ComeBackFromAFileWithEveryValue) {
+    const TemporaryFolder folder;
+    const GeneratorSettings settings{.set = 3,
+                                     .iterations = 7,
+                                     .height = 55,
+                                     .structure = 4,
+                                     .roughness = 9,
+                                     .seed = "000042",
+                                     .finerStructures = true};
+    SaveGeneratorSettings(folder / "a.par", settings, 5);
+    const std::string keys =
+        "Perlin= 3\nIteration= 7\nHeight= 55\nStructure= 4\nRNDSeed=000042\n"
+        "modify= 5\nhighres= 1\nrougness= 9\n";
+    EXPECT_EQ(TextOf(folder / "a.par"), "[Generator]\n" + keys);
+    EXPECT_EQ(StoredAfter(keys), keys);
+}
+
+TEST(GeneratorSettings, AreLimitedToTheirControlsButModifyIsTakenAsItStands) {
+    EXPECT_EQ(StoredAfter("PERLIN=4\niteration=1e30\nheight=101\nStructure=9\nmodify=77\n"
+                          "HIGHRES=5\nrougness=11\n"),
+              "Perlin= 2\nIteration= 11\nHeight= 100\nStructure= 4\nRNDSeed=0\n"
+              "modify= 77\nhighres= 1\nrougness= 10\n");
+    EXPECT_EQ(StoredAfter("iteration=2.5\nmodify=-1\n"),
+              "Perlin= 0\nIteration= 2\nHeight= 1\nStructure= 0\nRNDSeed=0\n"
+              "modify=-1\nhighres= 0\nrougness= 0\n");
+}
+
+TEST(GeneratorSettings, KeepWhatElseStandsInTheFile) {
+    const TemporaryFolder folder;
+    WriteText(folder / "a.par", "[Erosion]\nDropCount=500\n");
+    SaveGeneratorSettings(folder / "a.par", {}, 1);
+    EXPECT_TRUE(TextOf(folder / "a.par").starts_with("[Erosion]\nDropCount=500\n"));
+    EXPECT_THROW(LoadGeneratorSettings(folder / "none.par", 0, 1), Fault);
 }
 
 }  // namespace
