@@ -4,7 +4,6 @@
 
 #include "tests/ui/WindowFixture.h"
 #include "ui/Icons.h"
-#include "ui/PictureBox.h"
 #include "ui/dlgGenModify.h"
 #include "ui/dlgPreview.h"
 #include "ui/dlgSaveAs.h"
@@ -153,19 +152,6 @@ TEST_F(PerlinSetDialog, StaysOpenAfterAFault) {
     EXPECT_TRUE(user.seen[0].contains("nowhere.QPS")) << user.seen[0].toStdString();
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_FALSE(session_.TerrainBusy);
-}
-
-TEST_F(PerlinSetDialog, PreviewClosesByAClickOnItsPicture) {
-    ASSERT_TRUE(StartWindow());
-    clsTerrain preview;
-    preview.Init(129);
-    preview.SetPoint(3, 4, 32767);
-    dlgPreview dialog(window_.get());
-    dialog.ShowHeights(preview, 0, *host_);
-    dialog.show();
-    EXPECT_EQ(dialog.findChild<PictureBox*>("Picture1")->Raster().Width(), 129);
-    ClickIn(dialog, "Picture1");
-    EXPECT_FALSE(dialog.isVisible());
 }
 
 }  // namespace

@@ -202,17 +202,5 @@ TEST_F(ElevatorWindow, ArmsByOkAndByNothingElse) {
     }
 }
 
-TEST_F(ElevatorWindow, OpensWithTheSetsOfAFileThatIsCutShort) {
-    QBTools2::SaveElevatorSet(session_.elevator, 1, "one");
-    WriteText(folder_ / "Elevator.dat", TextOf(folder_ / "Elevator.dat") + "two");
-    ModalUser user({Press("OK"), [](QWidget* modal) {
-                        EXPECT_EQ(modal->findChild<QListWidget*>("List1")->count(), 2);
-                        PressEscape()(modal);
-                    }});
-    Click("cmdElevatorPar");
-    ASSERT_EQ(user.seen.size(), 1);
-    EXPECT_TRUE(user.seen[0].contains("cut short")) << user.seen[0].toStdString();
-}
-
 }  // namespace
 }  // namespace quillbrand

@@ -251,19 +251,6 @@ TEST_F(Panels, HandTheUsersChoicesToTheTerrain) {
     EXPECT_EQ(session_.CurrentTerrain.CRVM(), 1);
     EXPECT_TRUE(IsTicked("chkCurved"));
     EXPECT_TRUE(session_.CurrentTerrain.FixHeight());
-    auto* radius = Find<QLineEdit>("txtPlanetRadius");
-    radius->selectAll();
-    QTest::keyClicks(radius, "42");
-    ClickTool("Zoom100");
-    EXPECT_EQ(session_.CurrentTerrain.CRAD(), 42.0F);
-}
-
-TEST_F(Panels, DisableWhatHasNoFunctionYet) {
-    for (const char* name :
-         {"CmdResize", "cmdMask", "Command1", "chkPick", "chkEditSnap", "Slider1", "Slider2",
-          "sliderFineHeight", "cmdResetFineHeight", "sldDepthEffects", "cmdObjLoad",
-          "cmdObjMergeAll", "cmdObjDeleteAll", "cmdObjektmaker"})
-        EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
 }
 
 TEST_F(Panels, FitTheTabs) {
