@@ -1,9 +1,8 @@
 #include "tests/support/PdfTools.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <cstdio>
-#include <regex>
-#include <sstream>
 #include <stdexcept>
 
 #include "tests/support/TemporaryFolder.h"
@@ -49,15 +48,11 @@ std::vector<QImage> PicturesOf(const std::string& command) {
 }  // namespace
 
 std::string PdfText(const fs::path& pdf) {
-    std::istringstream output(OutputOf("pdftotext -layout " + Quoted(pdf) + " -"));
+    const auto output = QString::fromStdString(OutputOf("pdftotext -layout " + Quoted(pdf) + " -"));
     std::string text;
-    for (std::string line; std::getline(output, line);) {
-        std::istringstream words(line);
-        std::string joined;
-        for (std::string word; words >> word;)
-            joined += (joined.empty() ? "" : " ") + word;
-        text += joined.empty() ? "" : joined + "\n";
-    }
+    for (const QString& line : output.split('\n'))
+        if (!line.trimmed().isEmpty())
+            text += line.simplified().toStdString() + "\n";
     return text;
 }
 
@@ -76,15 +71,16 @@ QRectF WordBox(const fs::path& pdf, int page, const std::string& word) {
     const std::string number = std::to_string(page);
     const std::string output =
         OutputOf("pdftotext -bbox -f " + number + " -l " + number + " " + Quoted(pdf) + " -");
-    const std::regex box(
-        "xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" "
-        "yMax=\"([0-9.]+)\">" +
-        word + "<");
-    std::smatch match;
-    if (!std::regex_search(output, match, box))
+    static const QString corners =
+        QStringLiteral("xMin=\"(.+)\" yMin=\"(.+)\" xMax=\"(.+)\" yMax=\"(.+)\">%1<");
+    const auto match = QRegularExpression(corners.arg(QString::fromStdString(word)))
+                           .match(QString::fromStdString(output));
+    if (!match.hasMatch())
         return {};
-    return {QPointF(std::stod(match[1]), std::stod(match[2])),
-            QPointF(std::stod(match[3]), std::stod(match[4]))};
+    const auto corner = [&](int first) {
+        return QPointF(match.captured(first).toDouble(), match.captured(first + 1).toDouble());
+    };
+    return {corner(1), corner(3)};
 }
 
 }  // namespace quillbrand
