@@ -39,8 +39,8 @@ TEST(Files, SayWhatIsWrongWithFoldersMissingOnesAndDevices) {
         {folder / "none/a", (folder / "none/a").string() + ": No such file or directory"},
         {"/dev/full", "/dev/full: Not a regular file"}};
     for (const auto& [path, text] : cases) {
-        EXPECT_EQ(FaultOf([&] { WriteText(path, "x"); }), "cannot write " + text);
-        EXPECT_EQ(FaultOf([&] { ReadFile(path, 1); }), "cannot read " + text);
+        EXPECT_EQ(FaultOf([&at = path] { WriteText(at, "x"); }), "cannot write " + text);
+        EXPECT_EQ(FaultOf([&at = path] { ReadFile(at, 1); }), "cannot read " + text);
     }
 }
 

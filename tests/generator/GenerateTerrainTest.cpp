@@ -167,10 +167,9 @@ TEST_F(Generator, LeavesTheTerrainAsItWasWhenARunFails) {
     expectFault("Perlin Path not exists");
 }
 
-TEST_F(Generator, DrawsAPreviewOverAReducedCopyAndLeavesTheTerrainAlone) {
+TEST_F(Generator, DrawsAPreviewOverAReducedCopy) {
     RandomSource chance(2);
-    clsTerrain current = RandomGrid(257, -9000, 9000, chance);
-    const clsTerrain before = current;
+    const clsTerrain current = RandomGrid(257, -9000, 9000, chance);
     const GeneratorContext context{sets_, resizeMode_, highest};
     clsTerrain relief = PreviewOf(current, true, settings_, context, host_);
     EXPECT_EQ(relief.XPoints(), 129);
@@ -184,7 +183,6 @@ TEST_F(Generator, DrawsAPreviewOverAReducedCopyAndLeavesTheTerrainAlone) {
     EXPECT_EQ(AllCells(laid), AllCells(expected));
     settings_.clearTerrain = true;
     EXPECT_EQ(AllCells(PreviewOf(current, false, settings_, context, host_)), AllCells(relief));
-    EXPECT_TRUE(SameGrid(current, before));
     settings_.finerStructures = true;
     EXPECT_EQ(PreviewOf(current, true, settings_, context, host_).XPoints(), 257);
 }
