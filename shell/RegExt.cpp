@@ -1,6 +1,7 @@
 #include "shell/RegExt.h"
 
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 
 #include "base/Fault.h"
@@ -95,9 +96,9 @@ void RunTool(const char* name, const fs::path& folder) {
                     (ended ? process.readAll().trimmed() : process.errorString()).toStdString());
 }
 
-void Register(FileUndo& undo, const std::string& extension, const std::string& description,
-              const std::string& product, const std::string& command) {
-    const fs::path data = UserFolder("XDG_DATA_HOME", ".local/share");
+void Register(FileUndo& undo, const fs::path& data, const std::string& extension,
+              const std::string& description, const std::string& product,
+              const std::string& command) {
     const fs::path config = UserFolder("XDG_CONFIG_HOME", ".config");
     const std::string name = LowerCase(product);
 
@@ -110,15 +111,25 @@ void Register(FileUndo& undo, const std::string& extension, const std::string& d
     RunTool(mimeTool, data / "mime");
 }
 
-/// After files were put back: a list that was made in between would name what is gone.
-void ForgetListed() {
-    try {
-        const fs::path data = UserFolder("XDG_DATA_HOME", ".local/share");
-        RunTool(desktopTool, data / "applications");
-        RunTool(mimeTool, data / "mime");
-    } catch (const Fault&) {
+/// After files were put back: lists that were made in between would name what is gone. What fails
+/// now has been told of already.
+void ForgetListed(const fs::path& data) {
+    const auto renew = [](const char* tool, const fs::path& folder) {
+        try {
+            RunTool(tool, folder);
+        } catch (const Fault&) {
+            return;
+        }
+    };
+    renew(desktopTool, data / "applications");
+    std::error_code ignored;
+    if (!fs::is_directory(data / "mime", ignored))
         return;
-    }
+    // The tool needs this folder, though it may be empty, to make its lists.
+    const bool made = fs::create_directory(data / "mime/packages", ignored);
+    renew(mimeTool, data / "mime");
+    if (made)
+        fs::remove(data / "mime/packages", ignored);
 }
 
 }  // namespace
@@ -136,14 +147,16 @@ bool RegisterExtension(const std::string& extension, const std::string& descript
                        const std::string& product, const std::string& command,
                        std::string* reason) {
     try {
+        const fs::path data = UserFolder("XDG_DATA_HOME", ".local/share");
+        auto forget = qScopeGuard([&] { ForgetListed(data); });
         FileUndo undo;
-        Register(undo, extension, description, product, command);
+        Register(undo, data, extension, description, product, command);
         undo.Commit();
+        forget.dismiss();
         return true;
     } catch (const std::exception& error) {
         if (reason != nullptr)
             *reason = error.what();
-        ForgetListed();
         return false;
     }
 }

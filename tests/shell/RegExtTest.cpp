@@ -88,15 +88,22 @@ TEST_F(Association, PutsBackWhatItWroteWhenAStepFails) {
 
 TEST_F(Association, LeavesNothingWhenAToolFails) {
     const QByteArray path = qgetenv("PATH");
-    const fs::path tool = folder / "update-desktop-database";
-    WriteText(tool, "#!/bin/sh\necho no room\nexit 1\n");
-    fs::permissions(tool, fs::perms::owner_all);
-    setenv("PATH", folder.Path().c_str(), 1);
-    EXPECT_FALSE(Register(program));
-    qputenv("PATH", path);
-    EXPECT_EQ(reason, "update-desktop-database failed: no room");
+    const auto fails = [&](const std::string& toolName, const std::string& deed) {
+        const fs::path tool = folder / toolName;
+        WriteText(tool, "#!/bin/sh\n" + deed + "\necho no room\nexit 1\n");
+        fs::permissions(tool, fs::perms::owner_all);
+        setenv("PATH", folder.Path().c_str(), 1);
+        EXPECT_FALSE(Register(program));
+        qputenv("PATH", path);
+        fs::remove(tool);
+        EXPECT_EQ(reason, toolName + " failed: no room");
+    };
+    fails("update-desktop-database", "");
     EXPECT_FALSE(Register("/a=b"));
-    EXPECT_EQ(folder.Entries(), 1);
+    EXPECT_EQ(folder.Entries(), 0);
+    fails("update-mime-database", "/bin/ls \"$1/packages\" >\"$1/listed\"");
+    EXPECT_EQ(TextOf(data / "mime/listed"), "") << "it has listed what was there for a moment";
+    EXPECT_FALSE(fs::exists(data / "mime/packages"));
 }
 
 }  // namespace

@@ -77,13 +77,13 @@ TEST_F(TerFile, FindsChunksInAnyOrderAndHasDefaultsForMissingOnes) {
     const std::string curvature = text_.substr(64, 8);
     text_.erase(64, 8);
     text_.insert(40, curvature);
-    text_.replace(text_.find("CRAD"), 4, "XXXX");
-    text_.replace(text_.find("SCAL"), 4, "XXXX");
+    text_.replace(text_.find("CRAD"), 4, "NONE");
+    text_.replace(text_.find("SCAL"), 4, "NONE");
     EXPECT_TRUE(Load());
     EXPECT_EQ(HeaderText(terrain_),
               "XPoints 4 ScaleT 30 CRAD 6370 CRVM 1 HeightScale 77 BaseHeight -3");
     terrain_.CRVM(0);
-    text_.replace(text_.find("CRVM"), 4, "XXXX");
+    text_.replace(text_.find("CRVM"), 4, "NONE");
     EXPECT_TRUE(Load());
     EXPECT_EQ(terrain_.CRVM(), 1) << "of the last file that told it";
 }
@@ -93,7 +93,7 @@ TEST_F(TerFile, TakesItsPointsFromXptsAndWithoutAltwItsSamplesFromTheEighthByte)
     EXPECT_TRUE(Load());
     EXPECT_EQ(TextOf(terrain_), "11 12 5 / 30000 9 10 / 13 14 15");
     SetShort(28, 4);
-    text_.replace(text_.find("ALTW"), 4, "XXXX");
+    text_.replace(text_.find("ALTW"), 4, "NONE");
     EXPECT_TRUE(Load());
     EXPECT_EQ(terrain_.HeightScale(), 30);
     EXPECT_EQ(terrain_.BaseHeight(), 5);
