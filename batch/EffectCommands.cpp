@@ -22,7 +22,7 @@ void RunEffect(Batch& batch, const Arguments& given) {
                  .strength = static_cast<float>(given.Get<double>("strength")),
                  .zMin = given.Get<int>("zmin"),
                  .zMax = given.Get<int>("zmax"),
-                 .seed = std::to_string(batch.session.RandomSeedValue),
+                 .seed = std::to_string(batch.session.tools.RandomSeedValue),
                  .startErosion = [&] { return ErosionOf(given); }},
                 batch.host);
 }

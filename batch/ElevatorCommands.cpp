@@ -55,7 +55,7 @@ void Open(Elevator& elevator, const std::vector<Argument>& all) {
 
 /// What is done in the elevator's window, from its opening to OK.
 void RunElevator(Batch& batch, const Arguments& given) {
-    Elevator& elevator = batch.session.elevator;
+    Elevator& elevator = batch.session.tools.elevator;
     const std::vector<Argument>& all = given.InOrder();
     Open(elevator, all);
     for (std::size_t i = 0; i < all.size(); ++i) {

@@ -40,7 +40,8 @@ void Save(Batch& batch, const Arguments& given) {
 
 void SavePicture(Batch& batch, const Arguments& given) {
     Picture picture;
-    BuildHeightPicture(picture, batch.session.CurrentTerrain, given.Get<int>("row"), batch.host);
+    BuildHeightPicture(picture, batch.session.document.CurrentTerrain, given.Get<int>("row"),
+                       batch.host);
     picture.Save(given.Get<std::string>("file"));
 }
 

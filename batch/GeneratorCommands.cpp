@@ -35,7 +35,7 @@ GeneratorSettings TakeSettings(Batch& batch, const Arguments& given) {
     Session& session = batch.session;
     GeneratorSettings settings = batch.generatorDefaults;
     if (given.Find("set") != nullptr)
-        settings.set = RowOf(session.PerlinSets, given.Get<std::string>("set"));
+        settings.set = RowOf(session.tools.PerlinSets, given.Get<std::string>("set"));
     settings.iterations = given.GetOr("iterations", settings.iterations);
     settings.height = given.GetOr("height", settings.height);
     settings.structure = given.GetOr("structure", settings.structure);
@@ -43,16 +43,16 @@ GeneratorSettings TakeSettings(Batch& batch, const Arguments& given) {
     settings.finerStructures = given.GetOr("highres", settings.finerStructures);
     settings.clearTerrain = given.Get<bool>("clear");
 
-    session.RandomSeedValue = given.GetOr("seed", session.RandomSeedValue);
-    session.ModifyMode = given.GetOr("mode", session.ModifyMode);
-    session.ResizeMode = given.GetOr("resize", session.ResizeMode);
-    settings.seed = std::to_string(session.RandomSeedValue);
+    session.tools.RandomSeedValue = given.GetOr("seed", session.tools.RandomSeedValue);
+    session.tools.ModifyMode = given.GetOr("mode", session.tools.ModifyMode);
+    session.settings.ResizeMode = given.GetOr("resize", session.settings.ResizeMode);
+    settings.seed = std::to_string(session.tools.RandomSeedValue);
     batch.generatorLast = settings;
     return settings;
 }
 
 int PresentSize(const Session& session) {
-    const int size = session.CurrentTerrain.Size();
+    const int size = session.document.CurrentTerrain.Size();
     const auto sizes = GeneratorSizes();
     if (std::find(sizes.begin(), sizes.end(), size) == sizes.end())
         throw Fault("the present Size " + std::to_string(size) +
@@ -69,7 +69,7 @@ void Generate(Batch& batch, const Arguments& given) {
 void Preview(Batch& batch, const Arguments& given) {
     clsTerrain preview = PreviewTerrain(batch.session, TakeSettings(batch, given), batch.host);
     Picture picture;
-    BuildHeightPicture(picture, preview, batch.session.PaletteRow, batch.host);
+    BuildHeightPicture(picture, preview, batch.session.settings.PaletteRow, batch.host);
     picture.Save(given.Get<std::string>("file"));
 }
 

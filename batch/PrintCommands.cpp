@@ -26,8 +26,8 @@ void Print(Batch& batch, const Arguments& given) {
         return;
     Picture picture;
     if (settings.terrain)
-        BuildHeightPicture(picture, batch.session.CurrentTerrain, batch.session.PaletteRow,
-                           batch.host);
+        BuildHeightPicture(picture, batch.session.document.CurrentTerrain,
+                           batch.session.settings.PaletteRow, batch.host);
     ReplaceFile(given.Get<std::string>("file"),
                 PrintedPdf(batch.session, picture.Image(), settings));
 }

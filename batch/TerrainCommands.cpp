@@ -22,11 +22,11 @@ void New(Batch& batch, const Arguments& given) {
 }
 
 void Info(Batch& batch, const Arguments&) {
-    clsTerrain& terrain = batch.session.CurrentTerrain;
+    clsTerrain& terrain = batch.session.document.CurrentTerrain;
     terrain.Range();
     std::ostringstream lines;
-    lines << "CurrentFile=" << batch.session.CurrentFile << "\n"
-          << "TerrainEmpty=" << Flag(batch.session.TerrainEmpty) << "\n"
+    lines << "CurrentFile=" << batch.session.document.CurrentFile << "\n"
+          << "TerrainEmpty=" << Flag(batch.session.document.TerrainEmpty) << "\n"
           << "Size=" << terrain.Size() << "\n"
           << "XPoints=" << terrain.XPoints() << "\n"
           << "ScaleT=" << ShortestText(terrain.ScaleT()) << "\n"
@@ -86,37 +86,37 @@ std::vector<Key> PropertyKeys() {
 }
 
 void Set(Batch& batch, const Arguments& given) {
-    TerrainGuard guard(batch.session.CurrentTerrain);
+    TerrainGuard guard(batch.session.document.CurrentTerrain);
     for (const Argument& argument : given.InOrder())
         for (const Property& property : properties)
             if (argument.key == property.name)
-                property.write(batch.session.CurrentTerrain, argument.value);
+                property.write(batch.session.document.CurrentTerrain, argument.value);
     guard.Commit();
 }
 
 void Flat(Batch& batch, const Arguments& given) {
-    batch.session.CurrentTerrain.Fill(given.Get<int>("z"));
-    batch.session.TerrainEmpty = false;
+    batch.session.document.CurrentTerrain.Fill(given.Get<int>("z"));
+    batch.session.document.TerrainEmpty = false;
 }
 
 void SetOnePoint(Batch& batch, const Arguments& given) {
-    batch.session.CurrentTerrain.SetPoint(given.Get<int>("x"), given.Get<int>("y"),
-                                          given.Get<int>("z"));
-    batch.session.TerrainEmpty = false;
+    batch.session.document.CurrentTerrain.SetPoint(given.Get<int>("x"), given.Get<int>("y"),
+                                                   given.Get<int>("z"));
+    batch.session.document.TerrainEmpty = false;
 }
 
 void ShiftOnePoint(Batch& batch, const Arguments& given) {
-    batch.session.CurrentTerrain.IncrPoint(given.Get<int>("x"), given.Get<int>("y"),
-                                           given.Get<int>("d"));
-    batch.session.TerrainEmpty = false;
+    batch.session.document.CurrentTerrain.IncrPoint(given.Get<int>("x"), given.Get<int>("y"),
+                                                    given.Get<int>("d"));
+    batch.session.document.TerrainEmpty = false;
 }
 
 void PrintRange(Batch& batch, const Arguments&) {
-    batch.Print("Range=" + std::to_string(batch.session.CurrentTerrain.Range()) + "\n");
+    batch.Print("Range=" + std::to_string(batch.session.document.CurrentTerrain.Range()) + "\n");
 }
 
 void Scale(Batch& batch, const Arguments&) {
-    ScaleTerrainStep(batch.session.CurrentTerrain, batch.host);
+    ScaleTerrainStep(batch.session.document.CurrentTerrain, batch.host);
 }
 
 }  // namespace

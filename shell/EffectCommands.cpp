@@ -7,22 +7,23 @@
 namespace quillbrand {
 
 void StartEffect(Session& session, const EffectRequest& request, Host& host) {
-    if (session.TerrainEmpty)
+    if (session.document.TerrainEmpty)
         throw Fault("Terrain empty", "Effects");
     host.Busy(true);
-    clsTerrain& terrain = session.CurrentTerrain;
+    clsTerrain& terrain = session.document.CurrentTerrain;
     const QBFilter::Area area{
         .extent = terrain.XPoints(), .zMin = request.zMin, .zMax = request.zMax};
-    QBFilter::RiverBed riverBed{.programFolder = session.ProgramFolder,
-                                .ErodePictureName = session.ErodePictureName,
+    QBFilter::RiverBed riverBed{.programFolder = session.settings.ProgramFolder,
+                                .ErodePictureName = session.tools.ErodePictureName,
                                 .seed = request.seed};
     TerrainGuard guard(terrain);
-    QBFilter::ApplyEffect(
-        request.code, terrain, request.strength, area,
-        {.elevator = session.elevator, .riverBed = riverBed, .startErosion = request.startErosion},
-        host);
+    QBFilter::ApplyEffect(request.code, terrain, request.strength, area,
+                          {.elevator = session.tools.elevator,
+                           .riverBed = riverBed,
+                           .startErosion = request.startErosion},
+                          host);
     guard.Commit();
-    session.ErodePictureName = riverBed.ErodePictureName;
+    session.tools.ErodePictureName = riverBed.ErodePictureName;
     host.Busy(false);
 }
 

@@ -12,9 +12,9 @@ namespace quillbrand {
 namespace {
 
 GeneratorContext ContextOf(const Session& session) {
-    return {.sets = session.PerlinSets,
-            .ResizeMode = session.ResizeMode,
-            .ModifyMode = session.ModifyMode};
+    return {.sets = session.tools.PerlinSets,
+            .ResizeMode = session.settings.ResizeMode,
+            .ModifyMode = session.tools.ModifyMode};
 }
 
 }  // namespace
@@ -29,17 +29,17 @@ int SeedOf(const std::string& text) {
 }
 
 void ProduceTerrain(Session& session, int size, const GeneratorSettings& settings, Host& host) {
-    ProduceTerrain(session.CurrentTerrain, size, settings, ContextOf(session), host);
+    ProduceTerrain(session.document.CurrentTerrain, size, settings, ContextOf(session), host);
     // Only now: the run itself used the mode that stood before.
-    if (settings.clearTerrain || session.TerrainEmpty)
-        session.ModifyMode = Add;
-    session.TerrainEmpty = false;
+    if (settings.clearTerrain || session.document.TerrainEmpty)
+        session.tools.ModifyMode = Add;
+    session.document.TerrainEmpty = false;
     host.Busy(false);
 }
 
 clsTerrain PreviewTerrain(const Session& session, const GeneratorSettings& settings, Host& host) {
-    clsTerrain preview =
-        PreviewOf(session.CurrentTerrain, session.TerrainEmpty, settings, ContextOf(session), host);
+    clsTerrain preview = PreviewOf(session.document.CurrentTerrain, session.document.TerrainEmpty,
+                                   settings, ContextOf(session), host);
     host.Busy(false);
     return preview;
 }
@@ -47,16 +47,16 @@ clsTerrain PreviewTerrain(const Session& session, const GeneratorSettings& setti
 GeneratorSettings LoadGenerator(Session& session, const std::filesystem::path& path,
                                 int presentRow) {
     LoadedGeneratorSettings loaded =
-        LoadGeneratorSettings(path, presentRow, session.PerlinSets.ListedRows());
-    session.RandomSeedValue = SeedOf(loaded.settings.seed);
-    session.ModifyMode = loaded.modify;
+        LoadGeneratorSettings(path, presentRow, session.tools.PerlinSets.ListedRows());
+    session.tools.RandomSeedValue = SeedOf(loaded.settings.seed);
+    session.tools.ModifyMode = loaded.modify;
     return std::move(loaded.settings);
 }
 
 void SaveGenerator(const Session& session, const std::filesystem::path& path,
                    GeneratorSettings settings) {
-    settings.seed = std::to_string(session.RandomSeedValue);
-    SaveGeneratorSettings(path, settings, session.ModifyMode);
+    settings.seed = std::to_string(session.tools.RandomSeedValue);
+    SaveGeneratorSettings(path, settings, session.tools.ModifyMode);
 }
 
 }  // namespace quillbrand

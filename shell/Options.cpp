@@ -21,28 +21,28 @@ int ShownSizeIndex(const std::string& optTer) {
 }  // namespace
 
 OptionsSettings LoadOptions(const Session& session) {
-    const IniFile file = IniFile::Read(session.IniPath);
+    const IniFile file = IniFile::Read(session.settings.IniPath);
     return {.terrainSizeIndex = ShownSizeIndex(file.Get("Start", "OptTer")),
-            .ResizeMode = session.ResizeMode,
-            .PaletteRow = session.PaletteRow,
-            .BackColor = session.BackColor,
+            .ResizeMode = session.settings.ResizeMode,
+            .PaletteRow = session.settings.PaletteRow,
+            .BackColor = session.settings.BackColor,
             .terragenFolder = file.Get("terragen", "directory"),
             .objectFolder = file.Get("objects", "directory"),
             .terrainFolder = file.Get("terrain", "directory")};
 }
 
 void SaveOptions(Session& session, const OptionsSettings& settings) {
-    IniFile file = IniFile::Read(session.IniPath);
+    IniFile file = IniFile::Read(session.settings.IniPath);
     file.Set("Start", "OptTer", Str(settings.terrainSizeIndex));
     file.Set("Start", "optzoom", Str(settings.ResizeMode));
     file.Set("Start", "color", Str(settings.PaletteRow));
     if (settings.BackColor)
         file.Set("Start", "BackColor", Str(*settings.BackColor));
-    file.Write(session.IniPath);
-    session.ResizeMode = settings.ResizeMode;
-    session.PaletteRow = settings.PaletteRow;
+    file.Write(session.settings.IniPath);
+    session.settings.ResizeMode = settings.ResizeMode;
+    session.settings.PaletteRow = settings.PaletteRow;
     if (settings.BackColor)
-        session.BackColor = settings.BackColor;
+        session.settings.BackColor = settings.BackColor;
 }
 
 std::string WriteFolder(const Session& session, const std::string& section,

@@ -173,7 +173,7 @@ void RemoveDate(QByteArray& pdf) {
 }  // namespace
 
 std::array<std::string, 14> PageLines(const Session& session) {
-    const clsTerrain& terrain = session.CurrentTerrain;
+    const clsTerrain& terrain = session.document.CurrentTerrain;
     const std::string points = std::to_string(terrain.YPoints());
     const double width = terrain.YPoints() * double{terrain.ScaleT()};
     const std::string rule(53, '_');
@@ -182,7 +182,7 @@ std::array<std::string, 14> PageLines(const Session& session) {
             "  ",
             "                              Settings on Terrain",
             "    ",
-            "Name :" + session.CurrentFile,
+            "Name :" + session.document.CurrentFile,
             "    ",
             "Size           :" + points + " x " + points + " Pixel",
             "Height Scale   : " + PlainText(terrain.ScaleT()) + " m",

@@ -20,27 +20,27 @@ constexpr auto startFailed = "ERROR  Terragen";
 constexpr auto defaultFile = "default.ter";
 
 void SaveFirst(Session& session, Host& host, const std::function<void()>& saveUnnamed) {
-    if (session.CurrentFile != Session::noFile) {
+    if (session.document.CurrentFile != Document::noFile) {
         SaveCurrentFile(session, host);
     } else {
         saveUnnamed();
-        if (session.CurrentFile == Session::noFile) {
+        if (session.document.CurrentFile == Document::noFile) {
             host.Busy(false);
             throw Fault("Terragen not called", "Submit Terragen");
         }
     }
-    session.TerrainSaved = true;
+    session.document.TerrainSaved = true;
 }
 
 /// Gives a document without a file one, so that there is something to hand over.
 void SaveDefault(Session& session, Host& host) {
-    if (session.CurrentFile != Session::noFile)
+    if (session.document.CurrentFile != Document::noFile)
         return;
     host.Busy(false);
-    TerrainGuard guard(session.CurrentTerrain);
-    SaveT(session.CurrentTerrain, defaultFile, host, OldTail::Drop);
+    TerrainGuard guard(session.document.CurrentTerrain);
+    SaveT(session.document.CurrentTerrain, defaultFile, host, OldTail::Drop);
     guard.Commit();
-    session.CurrentFile = defaultFile;
+    session.document.CurrentFile = defaultFile;
 }
 
 bool Start(const QString& program, const QStringList& arguments) {
@@ -77,7 +77,7 @@ void StartRenderer(const std::filesystem::path& folder, const std::string& file)
 }
 
 void StartTerragen(Session& session, Host& host, const std::function<void()>& saveUnnamed) {
-    if (session.TerrainEmpty)
+    if (session.document.TerrainEmpty)
         throw Fault("Terrain empty !", "Save");
     const Answer answer =
         host.Ask({"Terrain save, before start terragen", "Start Terragen", Buttons::YesNoCancel});
@@ -90,7 +90,7 @@ void StartTerragen(Session& session, Host& host, const std::function<void()>& sa
         SaveFirst(session, host, saveUnnamed);
     else
         SaveDefault(session, host);
-    StartRenderer(folder, session.CurrentFile);
+    StartRenderer(folder, session.document.CurrentFile);
 }
 
 }  // namespace quillbrand

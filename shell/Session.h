@@ -10,36 +10,30 @@
 #include "effects/Gauss.h"
 #include "generator/GeneratorSettings.h"
 #include "generator/PerlinSets.h"
-#include "terrain/clsTerrain.h"
+#include "terrain/Document.h"
 #include "terrain/mTerLoad.h"
 
 namespace quillbrand {
 
-/// The long-lived state of one session, one of each: the document, its file, the flags, the
-/// settings that were read at the start.
-struct Session {
-    static constexpr auto noFile = "noname";
-
-    clsTerrain CurrentTerrain;
-    std::string CurrentFile = noFile;
-    bool TerrainEmpty = true;   ///< no heights yet; save-like commands refuse
-    bool TerrainSaved = false;  ///< set by every save, cleared by strokes of the stroke tools only
-    bool TerrainBusy = false;   ///< a long operation runs
-    bool BackupExists = false;  ///< a backup was made in this session
-
+/// Where the program's files lie, and what the settings file says of the rest.
+struct Settings {
     std::filesystem::path ProgramFolder;
     std::filesystem::path IniPath;
     std::filesystem::path PluginFolder;
     std::filesystem::path ObjectDirectory;
     std::filesystem::path TerrainDirectory;
-    std::filesystem::path StartFile;  ///< named on the command line, or empty
-
-    int SaveType = 0;
     int ResizeMode = 0;
     int PaletteRow = 0;
     std::optional<Colour> BackColor;  ///< of the window, where the settings tell one
+};
+
+/// What the tools and the dialogs remember from one use to the next.
+struct Tools {
+    int SaveType = 0;
     double ViewZoom = 1.0;
     int RandomSeedValue = 0;
+    std::string seedText;           ///< the generator's seed as its text stands
+    std::optional<int> chosenSize;  ///< the grid size that is ticked
     int ModifyMode = Add;
     PerlinSetTable PerlinSets;
     std::array<int, 100> EffectStrength{};
@@ -48,7 +42,17 @@ struct Session {
     GaussTable gaussTable;  ///< made at the start
     mTerLoad::Memory LoadMemory;
 
-    Session() { EffectStrength.fill(1); }
+    Tools() { EffectStrength.fill(1); }
+};
+
+/// The long-lived state of one run, one of each.
+struct Session {
+    Document document;
+    Settings settings;
+    Tools tools;
+    bool TerrainBusy = false;         ///< shown as the hourglass while a long operation runs
+    bool BackupExists = false;        ///< a backup was made in this session
+    std::filesystem::path StartFile;  ///< named on the command line, or empty
 };
 
 }  // namespace quillbrand

@@ -12,7 +12,7 @@ class SessionHost : public Host {
     SessionHost(Session& session, RandomSource& chance) : session_(session), chance_(chance) {}
 
     void Busy(bool busy) override { session_.TerrainBusy = busy; }
-    void Progress(int percent) override { session_.CurrentTerrain.pProgress = percent; }
+    void Progress(int percent) override { session_.document.CurrentTerrain.pProgress = percent; }
     RandomSource& Chance() override { return chance_; }
 
   private:

@@ -32,19 +32,19 @@ int StartNumber(const IniFile& settings, const std::string& key, int most) {
 }
 
 void ReadSettings(Session& session) {
-    const IniFile settings = IniFile::Read(session.IniPath);
-    session.ObjectDirectory = settings.Get("Objects", "Directory");
-    session.TerrainDirectory = settings.Get("Terrain", "Directory");
-    session.ResizeMode = StartNumber(settings, "OptZoom", 2);
-    session.PaletteRow = StartNumber(settings, "COLOR", paletteRows - 1);
+    const IniFile settings = IniFile::Read(session.settings.IniPath);
+    session.settings.ObjectDirectory = settings.Get("Objects", "Directory");
+    session.settings.TerrainDirectory = settings.Get("Terrain", "Directory");
+    session.settings.ResizeMode = StartNumber(settings, "OptZoom", 2);
+    session.settings.PaletteRow = StartNumber(settings, "COLOR", paletteRows - 1);
     // Negative numbers are colours of another system's desktop.
     const std::string backColor = settings.Get("Start", "BackColor");
     if (!backColor.empty() && Val(backColor) >= 0)
-        session.BackColor = StartNumber(settings, "BackColor", 0xffffff);
+        session.settings.BackColor = StartNumber(settings, "BackColor", 0xffffff);
     const std::string setFile = settings.Get("ELEVATOR", "Name");
-    session.elevator.ElevatorSetFile =
-        FindInFolder(session.ProgramFolder, setFile.empty() ? Elevator::defaultSetFile : setFile);
-    session.CurrentTerrain.Init(StartPoints(settings.Get("Start", "OptTer")));
+    session.tools.elevator.ElevatorSetFile = FindInFolder(
+        session.settings.ProgramFolder, setFile.empty() ? Elevator::defaultSetFile : setFile);
+    session.document.CurrentTerrain.Init(StartPoints(settings.Get("Start", "OptTer")));
 }
 
 void SetStartWindow(clsTerrain& terrain) {
@@ -59,24 +59,24 @@ void SetStartWindow(clsTerrain& terrain) {
 
 void SubMain(Session& session, const std::filesystem::path& programFolder,
              const std::string& startFile, RandomSource& chance) {
-    session.ProgramFolder = programFolder;
-    session.IniPath = programFolder / "Quillbrand.ini";
-    session.PluginFolder = programFolder / "plugins";
+    session.settings.ProgramFolder = programFolder;
+    session.settings.IniPath = programFolder / "Quillbrand.ini";
+    session.settings.PluginFolder = programFolder / "plugins";
     ReadSettings(session);
-    SetStartWindow(session.CurrentTerrain);
+    SetStartWindow(session.document.CurrentTerrain);
     if (STDIO::FileExists(startFile))
         session.StartFile = startFile;
 
-    QBTools2::LoadElevatorSet(session.elevator, 0);
-    session.elevator.ElevatorSetIndex = 0;
-    session.gaussTable = GaussTable(GaussTable::standardUpper);
+    QBTools2::LoadElevatorSet(session.tools.elevator, 0);
+    session.tools.elevator.ElevatorSetIndex = 0;
+    session.tools.gaussTable = GaussTable(GaussTable::standardUpper);
 
     chance.ReseedFromClock();
-    session.RandomSeedValue = NewSeed(chance);
+    session.tools.RandomSeedValue = NewSeed(chance);
 
-    session.CurrentTerrain.Fill(0);
-    session.CurrentTerrain.pProgress = 100;
-    session.PerlinSets = ScanPerlinSets(programFolder / "PS");
+    session.document.CurrentTerrain.Fill(0);
+    session.document.CurrentTerrain.pProgress = 100;
+    session.tools.PerlinSets = ScanPerlinSets(programFolder / "PS");
 }
 
 }  // namespace quillbrand

@@ -13,31 +13,31 @@ namespace {
 
 void Save(Session& session, const std::filesystem::path& path, bool scale, OldTail tail,
           Host& host) {
-    if (session.TerrainEmpty)
+    if (session.document.TerrainEmpty)
         throw Fault("Terrain empty !", "Save");
     host.Busy(true);
     host.Status("Save Terrainfile...");
     host.Yield();
-    clsTerrain& terrain = session.CurrentTerrain;
+    clsTerrain& terrain = session.document.CurrentTerrain;
     TerrainGuard guard(terrain);
     if (scale)
         ScaleTerrainStep(terrain, host);
     SaveT(terrain, path, host, tail);
     guard.Commit();
-    session.CurrentFile = path.string();
-    session.TerrainSaved = true;
+    session.document.CurrentFile = path.string();
+    session.document.TerrainSaved = true;
     host.Busy(false);
 }
 
 }  // namespace
 
 void NewTerrain(Session& session) {
-    session.CurrentTerrain.Init(session.CurrentTerrain.XPoints());
-    session.TerrainEmpty = true;
+    session.document.CurrentTerrain.Init(session.document.CurrentTerrain.XPoints());
+    session.document.TerrainEmpty = true;
 }
 
 void ClearTerrain(Session& session, int points) {
-    clsTerrain& terrain = session.CurrentTerrain;
+    clsTerrain& terrain = session.document.CurrentTerrain;
     terrain.Init(points);
     try {
         terrain.MinTU(-10);
@@ -47,18 +47,18 @@ void ClearTerrain(Session& session, int points) {
         terrain.HeightScale(40);
         terrain.BaseHeight(10);
     }
-    session.TerrainEmpty = true;
-    session.CurrentFile = Session::noFile;
+    session.document.TerrainEmpty = true;
+    session.document.CurrentFile = Document::noFile;
 }
 
 bool OpenTerrain(Session& session, const std::filesystem::path& path, Host& host) {
     host.Status("Load Terrainfile...");
     host.Yield();
-    const bool isTer =
-        mTerLoad::LoadTerrain(path, session.CurrentTerrain, session.LoadMemory, host);
-    session.CurrentFile = path.string();
-    session.ViewZoom = 1.0;
-    session.TerrainEmpty = false;
+    const bool isTer = mTerLoad::LoadTerrain(path, session.document.CurrentTerrain,
+                                             session.tools.LoadMemory, host);
+    session.document.CurrentFile = path.string();
+    session.tools.ViewZoom = 1.0;
+    session.document.TerrainEmpty = false;
     return isTer;
 }
 
@@ -67,21 +67,21 @@ void SaveTerrain(Session& session, const std::filesystem::path& path, bool scale
 }
 
 void SaveCurrentFile(Session& session, Host& host) {
-    Save(session, session.CurrentFile, true, OldTail::Keep, host);
+    Save(session, session.document.CurrentFile, true, OldTail::Keep, host);
 }
 
 void BackupTerrain(Session& session, const std::filesystem::path& path) {
-    SaveBackup(session.CurrentTerrain, path);
+    SaveBackup(session.document.CurrentTerrain, path);
     session.BackupExists = true;
 }
 
 void RestoreTerrain(Session& session, const std::filesystem::path& path) {
-    LoadBackup(session.CurrentTerrain, path);
-    session.CurrentTerrain.Range();
+    LoadBackup(session.document.CurrentTerrain, path);
+    session.document.CurrentTerrain.Range();
 }
 
 std::filesystem::path BackupPath(const Session& session) {
-    return session.ProgramFolder / "Backup.qbt";
+    return session.settings.ProgramFolder / "Backup.qbt";
 }
 
 void RemoveBackup(const Session& session) {
@@ -91,8 +91,8 @@ void RemoveBackup(const Session& session) {
 
 void SaveAsPerlinSet(Session& session, const std::filesystem::path& path, const std::string& name,
                      Host& host) {
-    TerrainGuard guard(session.CurrentTerrain);
-    SavePerlinSet(session.CurrentTerrain, path, name, host);
+    TerrainGuard guard(session.document.CurrentTerrain);
+    SavePerlinSet(session.document.CurrentTerrain, path, name, host);
     guard.Commit();
 }
 

@@ -6,14 +6,14 @@
 namespace quillbrand::vbConfig {
 
 std::string ReadIni(const Session& session, const std::string& section, const std::string& key) {
-    return IniFile::Read(session.IniPath).Get(section, key);
+    return IniFile::Read(session.settings.IniPath).Get(section, key);
 }
 
 std::string WriteIni(const Session& session, const std::string& section, const std::string& key,
                      const std::string& value) {
-    IniFile file = IniFile::Read(session.IniPath);
+    IniFile file = IniFile::Read(session.settings.IniPath);
     file.Set(section, key, value);
-    file.Write(session.IniPath);
+    file.Write(session.settings.IniPath);
     return TrimIni(value);
 }
 

@@ -2,9 +2,9 @@
 
 #include "shell/TerrainCommands.h"
 #include "shell/vbConfig.h"
-#include "ui/FileDialogs.h"
-#include "ui/Messages.h"
-#include "ui/dlgSaveAs.h"
+#include "ui/dialogs/FileDialogs.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/dialogs/dlgSaveAs.h"
 
 namespace quillbrand {
 
@@ -15,7 +15,8 @@ constexpr int typeTer = 1;
 /// The folder for the next start. That it cannot be written must not make a save fail.
 void RememberFolder(QWidget* window, const Session& session) {
     RunStep(window, QStringLiteral("Options"), [&] {
-        vbConfig::WriteIni(session, "Terrain", "Directory", session.TerrainDirectory.string());
+        vbConfig::WriteIni(session, "Terrain", "Directory",
+                           session.settings.TerrainDirectory.string());
     });
 }
 
@@ -44,17 +45,17 @@ void DocumentCommands::Loeschen() {
     if (!AskToClear())
         return;
     Session& session = workplace_.TheSession();
-    ClearTerrain(session, session.CurrentTerrain.XPoints());
+    ClearTerrain(session, session.document.CurrentTerrain.XPoints());
     workplace_.RebuildPicture();
 }
 
 bool DocumentCommands::Oeffnen() {
-    const auto chosen =
-        ChooseToOpen(workplace_.Window(), {.title = QStringLiteral("Terrain open ..."),
-                                           .filter = QStringLiteral("Terrainfiles|*.ter"),
-                                           .defaultExtension = QStringLiteral("ter"),
-                                           .startFolder = workplace_.TheSession().TerrainDirectory,
-                                           .fileName = {}});
+    const auto chosen = ChooseToOpen(
+        workplace_.Window(), {.title = QStringLiteral("Terrain open ..."),
+                              .filter = QStringLiteral("Terrainfiles|*.ter"),
+                              .defaultExtension = QStringLiteral("ter"),
+                              .startFolder = workplace_.TheSession().settings.TerrainDirectory,
+                              .fileName = {}});
     return chosen && Open(chosen->path);
 }
 
@@ -65,7 +66,7 @@ bool DocumentCommands::Open(const std::filesystem::path& path) {
 }
 
 bool DocumentCommands::RefuseEmpty() {
-    if (!workplace_.TheSession().TerrainEmpty)
+    if (!workplace_.TheSession().document.TerrainEmpty)
         return false;
     TellUser(workplace_.Window(), QStringLiteral("Terrain empty !"), QStringLiteral("Save"));
     return true;
@@ -75,11 +76,11 @@ bool DocumentCommands::Speichern() {
     Session& session = workplace_.TheSession();
     if (RefuseEmpty())
         return false;
-    if (session.CurrentFile != Session::noFile)
+    if (session.document.CurrentFile != Document::noFile)
         SaveCurrentFile(session, workplace_.TheHost());
     else
         FileSave(0);
-    session.TerrainSaved = true;
+    session.document.TerrainSaved = true;
     return true;
 }
 
@@ -93,13 +94,13 @@ bool DocumentCommands::SpeichernAls() {
 bool DocumentCommands::FileSave(int type) {
     Session& session = workplace_.TheSession();
     Host& host = workplace_.TheHost();
-    session.SaveType = type;
+    session.tools.SaveType = type;
     if (type < typeTer) {
         dlgSaveAs dialog(workplace_.Window());
         dialog.exec();
-        session.SaveType = dialog.SaveType;
+        session.tools.SaveType = dialog.SaveType;
     }
-    if (session.SaveType != typeTer)
+    if (session.tools.SaveType != typeTer)
         return false;
     host.Busy(true);
     host.Status("Save.....");
@@ -108,10 +109,10 @@ bool DocumentCommands::FileSave(int type) {
         ChooseToSave(workplace_.Window(), {.title = QStringLiteral("Terrain save ..."),
                                            .filter = QStringLiteral("Terrainfiles|*.ter"),
                                            .defaultExtension = QStringLiteral("ter"),
-                                           .startFolder = session.TerrainDirectory,
+                                           .startFolder = session.settings.TerrainDirectory,
                                            .fileName = {}});
     if (chosen)
-        session.TerrainDirectory = chosen->path.parent_path();
+        session.settings.TerrainDirectory = chosen->path.parent_path();
     RememberFolder(workplace_.Window(), session);
     host.Busy(false);
     if (!chosen)
@@ -144,7 +145,7 @@ bool DocumentCommands::Restore() {
 
 bool DocumentCommands::MayExit() {
     const Session& session = workplace_.TheSession();
-    if (session.TerrainEmpty || session.TerrainSaved)
+    if (session.document.TerrainEmpty || session.document.TerrainSaved)
         return true;
     const Answer answer = workplace_.TheHost().Ask(
         {"The terrain is not saved!  Do you want to save?", "EXIT", Buttons::YesNoCancel});

@@ -16,20 +16,20 @@
 #include "base/Fault.h"
 #include "shell/GeneratorCommands.h"
 #include "shell/SubMain.h"
-#include "ui/FolderDialog.h"
-#include "ui/PictureBox.h"
 #include "ui/Theme.h"
 #include "ui/WindowHost.h"
-#include "ui/dlgFltErosion.h"
-#include "ui/dlgGenModify.h"
-#include "ui/dlgOptions.h"
-#include "ui/dlgPreview.h"
-#include "ui/dlgPrint.h"
-#include "ui/dlgSaveAs.h"
-#include "ui/dlgSavePerlinsetNew.h"
-#include "ui/frmAbout.h"
-#include "ui/frmElevator.h"
+#include "ui/dialogs/FolderDialog.h"
+#include "ui/dialogs/dlgFltErosion.h"
+#include "ui/dialogs/dlgGenModify.h"
+#include "ui/dialogs/dlgOptions.h"
+#include "ui/dialogs/dlgPreview.h"
+#include "ui/dialogs/dlgPrint.h"
+#include "ui/dialogs/dlgSaveAs.h"
+#include "ui/dialogs/dlgSavePerlinsetNew.h"
+#include "ui/dialogs/frmAbout.h"
+#include "ui/dialogs/frmElevator.h"
 #include "ui/frmTer.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 namespace {
@@ -78,7 +78,7 @@ void TakeDialogs(frmTer& window, Session& session, WindowHost& host,
                  const Photographer& photographer) {
     dlgSaveAs saveAs(&window);
     photographer.Take(saveAs, "save-as");
-    dlgGenModify modify(session.ModifyMode, &window);
+    dlgGenModify modify(session.tools.ModifyMode, &window);
     photographer.Take(modify, "modify");
     dlgSavePerlinsetNew perlinSet(window);
     photographer.Take(perlinSet, "save-perlin-set");
@@ -107,7 +107,7 @@ void TakeOptions(frmTer& window, const Session& session, const Photographer& pho
     options.findChild<QTabWidget*>()->setCurrentIndex(1);
     photographer.Take(options, "options-directories");
     FolderDialog folder(QString::fromUtf8(MdlFolder::targets[2].title.data()),
-                        session.ProgramFolder, &options);
+                        session.settings.ProgramFolder, &options);
     photographer.Take(folder, "options-folder");
 }
 
@@ -116,7 +116,7 @@ void TakeAll(const QString& folder, const std::string& programFolder, bool dark)
     Session session;
     RandomSource chance(1);
     SubMain(session, programFolder, "", chance);
-    session.PaletteRow = 5;
+    session.settings.PaletteRow = 5;
     WindowHost host(session, chance);
     frmTer window(session, host);
     window.resize(1280, 800);
@@ -125,7 +125,7 @@ void TakeAll(const QString& folder, const std::string& programFolder, bool dark)
     if (!window.Form_Load())
         throw Fault("no Perlin sets in " + programFolder);
     photographer.Take(window, "start");
-    session.ResizeMode = 1;
+    session.settings.ResizeMode = 1;
     GeneratorSettings settings;
     settings.iterations = 3;
     settings.seed = "314159";

@@ -5,10 +5,10 @@
 #include "shell/ProgramFolder.h"
 #include "shell/SubMain.h"
 #include "shell/TerrainCommands.h"
-#include "ui/Messages.h"
 #include "ui/Theme.h"
 #include "ui/WindowHost.h"
-#include "ui/frmAbout.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/dialogs/frmAbout.h"
 #include "ui/frmTer.h"
 
 namespace quillbrand {

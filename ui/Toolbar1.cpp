@@ -2,7 +2,7 @@
 
 #include <QAction>
 
-#include "ui/Icons.h"
+#include "ui/controls/Icons.h"
 
 namespace quillbrand {
 

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "ui/Messages.h"
+#include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
 

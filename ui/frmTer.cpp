@@ -18,23 +18,23 @@
 #include "editor/View.h"
 #include "shell/RendererLink.h"
 #include "shell/TerrainCommands.h"
-#include "ui/Controls.h"
-#include "ui/EditPanel.h"
-#include "ui/EffectsPanel.h"
-#include "ui/GeneratorPanel.h"
-#include "ui/GlobalPanel.h"
-#include "ui/Messages.h"
-#include "ui/ObjectsPanel.h"
-#include "ui/PictureBox.h"
 #include "ui/StatusPanels.h"
 #include "ui/Theme.h"
-#include "ui/ToolStrip.h"
 #include "ui/Toolbar1.h"
-#include "ui/ZViewPanel.h"
-#include "ui/dlgOptions.h"
-#include "ui/dlgPrint.h"
-#include "ui/dlgSavePerlinsetNew.h"
-#include "ui/frmAbout.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/dialogs/dlgOptions.h"
+#include "ui/dialogs/dlgPrint.h"
+#include "ui/dialogs/dlgSavePerlinsetNew.h"
+#include "ui/dialogs/frmAbout.h"
+#include "ui/panels/EditPanel.h"
+#include "ui/panels/EffectsPanel.h"
+#include "ui/panels/GeneratorPanel.h"
+#include "ui/panels/GlobalPanel.h"
+#include "ui/panels/ObjectsPanel.h"
+#include "ui/plan/PictureBox.h"
+#include "ui/plan/ToolStrip.h"
+#include "ui/plan/ZViewPanel.h"
 
 namespace quillbrand {
 
@@ -92,15 +92,15 @@ void frmTer::ConnectParts() {
 }
 
 bool frmTer::Form_Load() {
-    session_.CurrentTerrain.pProgress = 100;
+    session_.document.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
-    if (session_.BackColor)
-        setPalette(WindowColours(ColorOf(*session_.BackColor)));
+    if (session_.settings.BackColor)
+        setPalette(WindowColours(ColorOf(*session_.settings.BackColor)));
     loaded_ = true;
     ResizePicture();
-    session_.TerrainEmpty = true;
+    session_.document.TerrainEmpty = true;
     ActualScreen();
-    if (!PerlinPathExists(session_.PerlinSets.folder)) {
+    if (!PerlinPathExists(session_.tools.PerlinSets.folder)) {
         WarnUser(this,
                  QStringLiteral("Perlinsets not found !! Please install Perlinsets in "
                                 "Quillbrandsubfolder \\PS !"),
@@ -108,7 +108,7 @@ bool frmTer::Form_Load() {
         return false;
     }
     generatorPanel_->LoadPerlinList();
-    Picture1_->SetBackColor(ColorOf(PaletteTable(128, session_.PaletteRow)));
+    Picture1_->SetBackColor(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
     ShowSwatch();
     if (!session_.StartFile.empty())
         OpenFile(session_.StartFile);
@@ -125,19 +125,20 @@ void frmTer::ShowPlanView() {
 }
 
 void frmTer::ResizePicture(double factor) {
-    const int size = session_.CurrentTerrain.Size();
-    session_.ViewZoom = NextZoom(session_.ViewZoom, factor, size, PictureLimit());
+    const int size = session_.document.CurrentTerrain.Size();
+    session_.tools.ViewZoom = NextZoom(session_.tools.ViewZoom, factor, size, PictureLimit());
     ShowPlanView();
-    const int side = PictureSide(session_.ViewZoom, size);
+    const int side = PictureSide(session_.tools.ViewZoom, size);
     Picture1_->setFixedSize(side, side);
     Picture1_->SetUnits(size);
     globalPanel_->TickSize(size);
-    sBar_->SetPanel(1, ZoomText(session_.ViewZoom, size));
+    sBar_->SetPanel(1, ZoomText(session_.tools.ViewZoom, size));
     ActualScreen();
 }
 
 void frmTer::RebuildPicture() {
-    BuildHeightPicture(Picture1_->Raster(), session_.CurrentTerrain, session_.PaletteRow, host_);
+    BuildHeightPicture(Picture1_->Raster(), session_.document.CurrentTerrain,
+                       session_.settings.PaletteRow, host_);
     Picture1_->update();
 }
 
@@ -150,22 +151,22 @@ std::string frmTer::SeedText() {
 }
 
 void frmTer::UpdateTitle() {
-    const QString file = QString::fromStdString(session_.CurrentFile);
+    const QString file = QString::fromStdString(session_.document.CurrentFile);
     if (!isMinimized()) {
         setWindowTitle(QStringLiteral("Quillbrand  [") + file + QLatin1Char(']'));
         return;
     }
-    const QString state =
-        session_.TerrainBusy
-            ? QString::fromStdString(Format(session_.CurrentTerrain.pProgress / 100.0, "### %"))
-            : QStringLiteral("Ready");
+    const QString state = session_.TerrainBusy
+                              ? QString::fromStdString(Format(
+                                    session_.document.CurrentTerrain.pProgress / 100.0, "### %"))
+                              : QStringLiteral("Ready");
     setWindowTitle(state + QStringLiteral(" - Quillbrand  [") + file + QStringLiteral("]   "));
 }
 
 void frmTer::ActualScreen() {
     UpdateTitle();
     globalPanel_->Refresh();
-    const bool hasTerrain = !session_.TerrainEmpty;
+    const bool hasTerrain = !session_.document.TerrainEmpty;
     for (const char* key : {"Speichern", "SpeichernAls", "Print", "Backup"})
         toolbar_->EnableButton(QString::fromUtf8(key), hasTerrain);
     toolbar_->EnableButton(QStringLiteral("Restore"), session_.BackupExists);
@@ -197,7 +198,7 @@ void frmTer::Timer1_Timer() {
     const bool busy = session_.TerrainBusy;
     EnableInput(!busy);
     if (busy) {
-        PB_->setValue(STDIO::ClampValue(0, 100, session_.CurrentTerrain.pProgress));
+        PB_->setValue(STDIO::ClampValue(0, 100, session_.document.CurrentTerrain.pProgress));
     } else {
         InfoText_->setText(QStringLiteral("Ready"));
         PB_->setValue(0);
@@ -207,8 +208,8 @@ void frmTer::Timer1_Timer() {
 }
 
 void frmTer::Toolbar1_ButtonClick(const QString& key) {
-    session_.CurrentTerrain.CRAD(static_cast<float>(globalPanel_->PlanetRadius()));
-    session_.CurrentTerrain.CRVM(globalPanel_->Curved() ? 1 : 0);
+    session_.document.CurrentTerrain.CRAD(static_cast<float>(globalPanel_->PlanetRadius()));
+    session_.document.CurrentTerrain.CRVM(globalPanel_->Curved() ? 1 : 0);
     ShowPlanView();
     bool commonEnd = true;
     RunCommand(this, host_, toolbar_->Button(key)->text(), [&] { commonEnd = RunButton(key); });
@@ -275,16 +276,16 @@ void frmTer::ShowZView() {
 }
 
 void frmTer::ShowSwatch() {
-    editPanel_->SetSwatch(ColorOf(PaletteTable(128, session_.PaletteRow)));
+    editPanel_->SetSwatch(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
 }
 
 void frmTer::optZView_Click() {
-    if (session_.TerrainEmpty) {
+    if (session_.document.TerrainEmpty) {
         TellUser(this, QStringLiteral("Terrain empty !"), QStringLiteral("Z-View"));
         ShowPlanView();
         return;
     }
-    session_.CurrentTerrain.ScaleTerrain();
+    session_.document.CurrentTerrain.ScaleTerrain();
     ActualScreen();
     PicZ_->SetAltitudes(globalPanel_->LowestText(), globalPanel_->HighestText());
     optZView_->setChecked(true);
@@ -295,7 +296,7 @@ void frmTer::optZView_Click() {
 void frmTer::Picture1_MouseMove(double x, double y) {
     if (session_.TerrainBusy)
         return;
-    if (const auto texts = PointTexts(session_.CurrentTerrain, x, y))
+    if (const auto texts = PointTexts(session_.document.CurrentTerrain, x, y))
         for (std::size_t i = 0; i < texts->size(); ++i)
             sBar_->SetPanel(static_cast<int>(i) + 2, (*texts)[i]);
 }

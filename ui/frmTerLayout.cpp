@@ -4,18 +4,18 @@
 #include <QTabWidget>
 #include <QTimer>
 
-#include "ui/Controls.h"
-#include "ui/EditPanel.h"
-#include "ui/EffectsPanel.h"
-#include "ui/GeneratorPanel.h"
-#include "ui/GlobalPanel.h"
-#include "ui/ObjectsPanel.h"
-#include "ui/PictureBox.h"
 #include "ui/StatusPanels.h"
-#include "ui/ToolStrip.h"
 #include "ui/Toolbar1.h"
-#include "ui/ZViewPanel.h"
+#include "ui/controls/Controls.h"
 #include "ui/frmTer.h"
+#include "ui/panels/EditPanel.h"
+#include "ui/panels/EffectsPanel.h"
+#include "ui/panels/GeneratorPanel.h"
+#include "ui/panels/GlobalPanel.h"
+#include "ui/panels/ObjectsPanel.h"
+#include "ui/plan/PictureBox.h"
+#include "ui/plan/ToolStrip.h"
+#include "ui/plan/ZViewPanel.h"
 
 // Where the parts of the main window stand; what they do is in frmTer.cpp.
 namespace quillbrand {

@@ -18,17 +18,18 @@ class Commands : public testing::Test {
   protected:
     Commands() {
         WriteNoiseSet(folder / "PS", "Dots", 140);
-        session.PerlinSets = ScanPerlinSets(folder / "PS");
-        session.CurrentTerrain = RandomGrid(129, -1000, 1000, host.chance);
-        session.TerrainEmpty = false;
-        session.CurrentFile = "hill.ter";
+        session.tools.PerlinSets = ScanPerlinSets(folder / "PS");
+        session.document.CurrentTerrain = RandomGrid(129, -1000, 1000, host.chance);
+        session.document.TerrainEmpty = false;
+        session.document.CurrentFile = "hill.ter";
     }
 
     /// Everything that a command could leave changed.
     auto State() const {
-        return std::tuple(AllCells(session.CurrentTerrain), HeaderText(session.CurrentTerrain),
-                          session.CurrentFile, session.TerrainEmpty, session.TerrainSaved,
-                          session.ModifyMode, session.RandomSeedValue);
+        return std::tuple(AllCells(session.document.CurrentTerrain),
+                          HeaderText(session.document.CurrentTerrain), session.document.CurrentFile,
+                          session.document.TerrainEmpty, session.document.TerrainSaved,
+                          session.tools.ModifyMode, session.tools.RandomSeedValue);
     }
 
     template <typename Work>
@@ -56,83 +57,83 @@ TEST_F(Commands, ThatFailChangeNothing) {
 }
 
 TEST_F(Commands, ClearForgetsFileAndWindowAndNewKeepsThem) {
-    session.CurrentTerrain.HeightScale(32767);
-    session.CurrentTerrain.BaseHeight(32767);
+    session.document.CurrentTerrain.HeightScale(32767);
+    session.document.CurrentTerrain.BaseHeight(32767);
     NewTerrain(session);
-    EXPECT_EQ(session.CurrentFile, "hill.ter");
-    EXPECT_EQ(session.CurrentTerrain.HeightScale(), 32767);
-    EXPECT_TRUE(session.TerrainEmpty);
+    EXPECT_EQ(session.document.CurrentFile, "hill.ter");
+    EXPECT_EQ(session.document.CurrentTerrain.HeightScale(), 32767);
+    EXPECT_TRUE(session.document.TerrainEmpty);
     ClearTerrain(session, 5);
-    EXPECT_EQ(session.CurrentFile, "noname");
-    EXPECT_EQ(session.CurrentTerrain.XPoints(), 5);
-    EXPECT_EQ(session.CurrentTerrain.MinTU(), -10);
-    EXPECT_EQ(session.CurrentTerrain.MaxTU(), 30);
+    EXPECT_EQ(session.document.CurrentFile, "noname");
+    EXPECT_EQ(session.document.CurrentTerrain.XPoints(), 5);
+    EXPECT_EQ(session.document.CurrentTerrain.MinTU(), -10);
+    EXPECT_EQ(session.document.CurrentTerrain.MaxTU(), 30);
 }
 
 TEST_F(Commands, SavedAndBackedUpTerrainsComeBack) {
     const auto file = folder / "a.ter";
     SaveTerrain(session, file, true, host);
-    EXPECT_TRUE(session.TerrainSaved);
-    EXPECT_EQ(session.CurrentFile, file.string());
-    const std::string saved = TextOf(session.CurrentTerrain);
+    EXPECT_TRUE(session.document.TerrainSaved);
+    EXPECT_EQ(session.document.CurrentFile, file.string());
+    const std::string saved = TextOf(session.document.CurrentTerrain);
     BackupTerrain(session, folder / "b.qbt");
     EXPECT_TRUE(session.BackupExists);
 
     ClearTerrain(session, 5);
     RestoreTerrain(session, folder / "b.qbt");
-    EXPECT_EQ(TextOf(session.CurrentTerrain), saved);
-    EXPECT_TRUE(session.TerrainEmpty);
+    EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
+    EXPECT_TRUE(session.document.TerrainEmpty);
 
     ClearTerrain(session, 5);
     EXPECT_TRUE(OpenTerrain(session, file, host));
-    EXPECT_EQ(TextOf(session.CurrentTerrain), saved);
-    EXPECT_FALSE(session.TerrainEmpty);
+    EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
+    EXPECT_FALSE(session.document.TerrainEmpty);
 }
 
 TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
-    session.ModifyMode = Subtraction;
+    session.tools.ModifyMode = Subtraction;
     ProduceTerrain(session, 128, {.seed = "1"}, host);
-    EXPECT_EQ(session.ModifyMode, Subtraction);
+    EXPECT_EQ(session.tools.ModifyMode, Subtraction);
 
-    session.ModifyMode = Multiplication;
+    session.tools.ModifyMode = Multiplication;
     ProduceTerrain(session, 128, {.seed = "1", .clearTerrain = true}, host);
-    EXPECT_EQ(session.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
-    EXPECT_EQ(session.ModifyMode, Add);
+    EXPECT_EQ(session.document.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
+    EXPECT_EQ(session.tools.ModifyMode, Add);
 
     ClearTerrain(session, 129);
     ProduceTerrain(session, 128, {.seed = "1"}, host);
-    EXPECT_GT(session.CurrentTerrain.Range(), 60000);
-    EXPECT_FALSE(session.TerrainEmpty);
+    EXPECT_GT(session.document.CurrentTerrain.Range(), 60000);
+    EXPECT_FALSE(session.document.TerrainEmpty);
 }
 
 TEST_F(Commands, GeneratorFileCarriesSeedAndModeOfTheSession) {
-    session.RandomSeedValue = 4711;
-    session.ModifyMode = highest;
+    session.tools.RandomSeedValue = 4711;
+    session.tools.ModifyMode = highest;
     SaveGenerator(session, folder / "a.par", {.iterations = 7, .seed = {}});
-    session.RandomSeedValue = 0;
-    session.ModifyMode = Add;
+    session.tools.RandomSeedValue = 0;
+    session.tools.ModifyMode = Add;
     EXPECT_EQ(LoadGenerator(session, folder / "a.par", 0).iterations, 7);
-    EXPECT_EQ(session.RandomSeedValue, 4711);
-    EXPECT_EQ(session.ModifyMode, highest);
+    EXPECT_EQ(session.tools.RandomSeedValue, 4711);
+    EXPECT_EQ(session.tools.ModifyMode, highest);
     WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\n");
     EXPECT_EQ(LoadGenerator(session, folder / "far.par", 0).seed, "1e10");
-    EXPECT_EQ(session.RandomSeedValue, 2147483647);
+    EXPECT_EQ(session.tools.RandomSeedValue, 2147483647);
 }
 
 TEST_F(Commands, EffectWorksBetweenItsLimitsOnly) {
-    const auto cells = AllCells(session.CurrentTerrain);
+    const auto cells = AllCells(session.document.CurrentTerrain);
     StartEffect(session, {.code = 1, .strength = 5, .zMin = 5000, .zMax = 6000}, host);
-    EXPECT_EQ(AllCells(session.CurrentTerrain), cells);
+    EXPECT_EQ(AllCells(session.document.CurrentTerrain), cells);
     StartEffect(session, {.code = 1, .strength = 5}, host);
-    EXPECT_NE(AllCells(session.CurrentTerrain), cells);
+    EXPECT_NE(AllCells(session.document.CurrentTerrain), cells);
     EXPECT_FALSE(host.isBusy);
 }
 
 TEST_F(Commands, EffectsThatFailMidwayLeaveTheHeights) {
-    session.CurrentTerrain.Fill(700);
+    session.document.CurrentTerrain.Fill(700);
     ExpectFaultChangesNothing([&] { StartEffect(session, {.code = 7, .strength = 1}, host); });
-    session.CurrentTerrain.SetPoint(3, 3, 200000);
-    session.elevator.grid.Arm(true);
+    session.document.CurrentTerrain.SetPoint(3, 3, 200000);
+    session.tools.elevator.grid.Arm(true);
     ExpectFaultChangesNothing(
         [&] { StartEffect(session, {.code = 4, .strength = 1, .zMin = 0, .zMax = 300000}, host); });
     ExpectFaultChangesNothing([&] { StartEffect(session, {.code = 5, .strength = 1}, host); });

@@ -11,7 +11,7 @@ namespace {
 
 class Options : public testing::Test {
   protected:
-    Options() { session.IniPath = folder / "Quillbrand.ini"; }
+    Options() { session.settings.IniPath = folder / "Quillbrand.ini"; }
 
     TemporaryFolder folder;
     Session session;
@@ -20,14 +20,14 @@ class Options : public testing::Test {
 TEST_F(Options, ShowTheLargestSizeAsTheThird) {
     for (const auto& [stored, shown] : std::vector<std::pair<std::string, int>>{
              {" 0", 0}, {"1", 1}, {"2", 2}, {"3", 3}, {"4", 2}, {"", 2}, {"12", 2}, {"-1", 2}}) {
-        WriteText(session.IniPath, "[START]\r\nOPTTER=" + stored + "\r\n");
+        WriteText(session.settings.IniPath, "[START]\r\nOPTTER=" + stored + "\r\n");
         EXPECT_EQ(LoadOptions(session).terrainSizeIndex, shown) << stored;
     }
 }
 
 TEST_F(Options, ChangeTheirLinesOnly) {
     WriteText(
-        session.IniPath,
+        session.settings.IniPath,
         "; M\xfcller\r\n[Terrain]\r\nDirectory=/a b\r\n[start]\r\nOptTer=4\r\nCOLOR=0\r\n?\r\n");
     OptionsSettings settings = LoadOptions(session);
     EXPECT_EQ(settings.terrainFolder, "/a b");
@@ -35,20 +35,20 @@ TEST_F(Options, ChangeTheirLinesOnly) {
     settings.PaletteRow = 5;
     settings.BackColor = 0xff8000;
     SaveOptions(session, settings);
-    EXPECT_EQ(TextOf(session.IniPath),
+    EXPECT_EQ(TextOf(session.settings.IniPath),
               "; M\xfcller\r\n[Terrain]\r\nDirectory=/a b\r\n[start]\r\nOptTer= 2\r\nCOLOR= 5\r\n"
               "optzoom= 2\r\nBackColor= 16744448\r\n?\r\n");
-    EXPECT_EQ(session.ResizeMode, 2);
-    EXPECT_EQ(session.PaletteRow, 5);
-    EXPECT_EQ(session.BackColor, 0xff8000);
+    EXPECT_EQ(session.settings.ResizeMode, 2);
+    EXPECT_EQ(session.settings.PaletteRow, 5);
+    EXPECT_EQ(session.settings.BackColor, 0xff8000);
 }
 
 TEST_F(Options, LeaveTheSessionAloneWhenTheyCannotBeStored) {
-    session.IniPath = folder / "nowhere/Quillbrand.ini";
+    session.settings.IniPath = folder / "nowhere/Quillbrand.ini";
     EXPECT_THROW(SaveOptions(session, {.ResizeMode = 1, .PaletteRow = 3, .BackColor = 7}), Fault);
-    EXPECT_EQ(session.ResizeMode, 0);
-    EXPECT_EQ(session.PaletteRow, 0);
-    EXPECT_FALSE(session.BackColor.has_value());
+    EXPECT_EQ(session.settings.ResizeMode, 0);
+    EXPECT_EQ(session.settings.PaletteRow, 0);
+    EXPECT_FALSE(session.settings.BackColor.has_value());
     EXPECT_THROW(WriteFolder(session, "Terrain", "/a"), Fault);
 }
 
@@ -57,10 +57,10 @@ TEST_F(Options, StoreAFolderAsItIsOrNotAtAll) {
         EXPECT_EQ(WriteFolder(session, "Terragen", path), path);
         EXPECT_EQ(vbConfig::ReadIni(session, "TERRAGEN", "Directory"), path);
     }
-    const std::string before = TextOf(session.IniPath);
+    const std::string before = TextOf(session.settings.IniPath);
     EXPECT_THROW(WriteFolder(session, "Terragen", "/a\n[Start]"), Fault);
     EXPECT_THROW(WriteFolder(session, "Terragen", std::string(512, 'x')), Fault);
-    EXPECT_EQ(TextOf(session.IniPath), before);
+    EXPECT_EQ(TextOf(session.settings.IniPath), before);
 }
 
 }  // namespace

@@ -27,9 +27,9 @@ _____________________________________________________
 class PrintedPage : public testing::Test {
   protected:
     PrintedPage() {
-        session.CurrentTerrain.Init(5);
-        session.CurrentTerrain.ScaleT(30);
-        session.CurrentFile = "/a b/hill.ter";
+        session.document.CurrentTerrain.Init(5);
+        session.document.CurrentTerrain.ScaleT(30);
+        session.document.CurrentFile = "/a b/hill.ter";
         picture.fill(Qt::red);
         picture.setPixelColor(1, 2, QColor(1, 2, 3));
     }
@@ -102,7 +102,7 @@ TEST_F(PrintedPage, PrintsOnlyWhatIsTicked) {
 }
 
 TEST_F(PrintedPage, KeepsALongPathOnThePaper) {
-    session.CurrentFile = "/" + std::string(200, 'w') + "/end";
+    session.document.CurrentFile = "/" + std::string(200, 'w') + "/end";
     EXPECT_LT(WordBox(Pdf({}), 1, "Name").right(), 100);
     const QImage page = PdfPage(Pdf({.terrain = false}), 1, 72);
     EXPECT_LE(Extent(page, [](const QColor& c) { return c.red() < 200; }).right(), 595 - 44);

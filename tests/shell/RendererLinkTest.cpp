@@ -35,10 +35,10 @@ class RendererLink : public testing::Test {
         fs::create_directories(renderer);
         fs::create_directories(bin);
         fs::current_path(folder.Path());
-        session.IniPath = folder / "Quillbrand.ini";
+        session.settings.IniPath = folder / "Quillbrand.ini";
         vbConfig::WriteIni(session, "Terragen", "directory", renderer.string());
-        session.CurrentTerrain = GridFrom("1 2 3 / 4 5 6 / 7 8 9");
-        session.TerrainEmpty = false;
+        session.document.CurrentTerrain = GridFrom("1 2 3 / 4 5 6 / 7 8 9");
+        session.document.TerrainEmpty = false;
         setenv("PATH", bin.c_str(), 1);
     }
 
@@ -83,11 +83,11 @@ class RendererLink : public testing::Test {
 
 TEST_F(RendererLink, HandsTheFileOverAsOneArgumentAndDoesNotWait) {
     Install(renderer / "TerraGen.EXE");
-    session.CurrentFile = folder / "a \"b\" 'c' $PATH `d`.ter";
+    session.document.CurrentFile = folder / "a \"b\" 'c' $PATH `d`.ter";
     Run(Answer::Yes);
-    EXPECT_EQ(Arguments(renderer), "-t\n" + session.CurrentFile + "\n");
-    EXPECT_TRUE(session.TerrainSaved);
-    EXPECT_GT(session.CurrentTerrain.Range(), 50000) << "saved stretched";
+    EXPECT_EQ(Arguments(renderer), "-t\n" + session.document.CurrentFile + "\n");
+    EXPECT_TRUE(session.document.TerrainSaved);
+    EXPECT_GT(session.document.CurrentTerrain.Range(), 50000) << "saved stretched";
     ASSERT_EQ(host.questions.size(), 1u);
     EXPECT_EQ(host.questions[0].text, "Terrain save, before start terragen");
     EXPECT_EQ(host.questions[0].title, "Start Terragen");
@@ -99,9 +99,9 @@ TEST_F(RendererLink, SavesANewDocumentUnscaledUnderADefaultNameOnNo) {
     Run(Answer::No);
     EXPECT_EQ(Arguments(renderer), "-t\ndefault.ter\n");
     EXPECT_TRUE(fs::exists(folder / "default.ter"));
-    EXPECT_EQ(session.CurrentFile, "default.ter");
-    EXPECT_FALSE(session.TerrainSaved);
-    EXPECT_EQ(TextOf(session.CurrentTerrain), TextOf(GridFrom("1 2 3 / 4 5 6 / 7 8 9")));
+    EXPECT_EQ(session.document.CurrentFile, "default.ter");
+    EXPECT_FALSE(session.document.TerrainSaved);
+    EXPECT_EQ(TextOf(session.document.CurrentTerrain), TextOf(GridFrom("1 2 3 / 4 5 6 / 7 8 9")));
 
     fs::remove(folder / "default.ter");
     fs::remove(renderer / "arguments");
@@ -115,7 +115,7 @@ TEST_F(RendererLink, AsksForANameAndEndsWithoutOne) {
     Run(Answer::Cancel);
     EXPECT_EQ(asked, 0);
     EXPECT_EQ(Message(Answer::Yes), "Submit Terragen: Terragen not called");
-    EXPECT_FALSE(session.TerrainSaved);
+    EXPECT_FALSE(session.document.TerrainSaved);
     chosen = folder / "new.ter";
     Run(Answer::Yes);
     EXPECT_EQ(asked, 2);
@@ -135,7 +135,7 @@ TEST_F(RendererLink, TellsWhatIsMissing) {
     vbConfig::WriteIni(session, "Terragen", "directory", "");
     EXPECT_EQ(Message(Answer::Cancel), "Start Terragen: " + select);
     EXPECT_EQ(host.questions.size(), 3u) << "the question comes first";
-    session.TerrainEmpty = true;
+    session.document.TerrainEmpty = true;
     EXPECT_EQ(Message(Answer::Yes), "Save: Terrain empty !");
     EXPECT_EQ(host.questions.size(), 3u);
 }

@@ -3,12 +3,12 @@
 #include <QRadioButton>
 
 #include "tests/ui/WindowFixture.h"
-#include "ui/Icons.h"
-#include "ui/dlgGenModify.h"
-#include "ui/dlgPreview.h"
-#include "ui/dlgSaveAs.h"
-#include "ui/dlgSavePerlinsetNew.h"
-#include "ui/frmAbout.h"
+#include "ui/controls/Icons.h"
+#include "ui/dialogs/dlgGenModify.h"
+#include "ui/dialogs/dlgPreview.h"
+#include "ui/dialogs/dlgSaveAs.h"
+#include "ui/dialogs/dlgSavePerlinsetNew.h"
+#include "ui/dialogs/frmAbout.h"
 
 namespace quillbrand {
 namespace {

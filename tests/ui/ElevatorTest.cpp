@@ -3,8 +3,8 @@
 
 #include "effects/QBTools2.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/PictureBox.h"
-#include "ui/frmElevator.h"
+#include "ui/dialogs/frmElevator.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 namespace {
@@ -70,7 +70,7 @@ class ElevatorWindow : public WindowFixture {
         return straight.grid;
     }
 
-    ElevatorGrid& grid() { return session_.elevator.grid; }
+    ElevatorGrid& grid() { return session_.tools.elevator.grid; }
 
     std::unique_ptr<frmElevator> elevator_;
     PictureBox* picture_ = nullptr;
@@ -136,7 +136,7 @@ TEST_F(ElevatorWindow, AddsSavesAndFetchesSets) {
     EXPECT_TRUE(grid() == StraightLine());
     EXPECT_EQ(BlackRows(30), QList<int>{226});
     ClickSet(1);
-    EXPECT_EQ(session_.elevator.ElevatorSetIndex, 1);
+    EXPECT_EQ(session_.tools.elevator.ElevatorSetIndex, 1);
     EXPECT_EQ(grid().FirstMark(30), 200);
     EXPECT_EQ(drawn.FirstMark(30), 200);
     Draw({31, 201}, {{31, 190}});
@@ -145,7 +145,7 @@ TEST_F(ElevatorWindow, AddsSavesAndFetchesSets) {
     ClickSet(1);
     EXPECT_EQ(grid().FirstMark(31), 190) << "a click on the chosen set fetches it again";
     QTest::keyClick(list_, Qt::Key_Down);
-    EXPECT_EQ(session_.elevator.ElevatorSetIndex, 2);
+    EXPECT_EQ(session_.tools.elevator.ElevatorSetIndex, 2);
     EXPECT_EQ(grid().FirstMark(31), 225);
 
     Open();
@@ -158,7 +158,7 @@ TEST_F(ElevatorWindow, TellsWhatCannotBeDoneAndStays) {
     Open();
     QTest::mouseClick(list_->viewport(), Qt::LeftButton, Qt::ControlModifier,
                       list_->visualItemRect(list_->item(0)).center());
-    session_.elevator.ElevatorSetFile = folder_ / "nowhere" / "sets";
+    session_.tools.elevator.ElevatorSetFile = folder_ / "nowhere" / "sets";
     ModalUser user({Press("OK"), AnswerName("Hill"), Press("OK")});
     ClickIn("cmdElevatorSave");
     ClickIn("cmdAddElevatorSet");
@@ -170,7 +170,7 @@ TEST_F(ElevatorWindow, TellsWhatCannotBeDoneAndStays) {
 }
 
 TEST_F(ElevatorWindow, ComesBackToTheChosenSetWhenAnotherHasGone) {
-    QBTools2::SaveElevatorSet(session_.elevator, 1, "one");
+    QBTools2::SaveElevatorSet(session_.tools.elevator, 1, "one");
     Open();
     std::filesystem::remove(folder_ / "Elevator.dat");
     ModalUser user({Press("OK")});

@@ -6,7 +6,7 @@
 #include "tests/support/Grids.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/dlgFltErosion.h"
+#include "ui/dialogs/dlgFltErosion.h"
 
 namespace quillbrand {
 namespace {
@@ -35,17 +35,17 @@ class Erosion : public WindowFixture {
         ShowTab("Effects");
         Click("optFilter11");
         // As if the heights did not fill their range.
-        session_.CurrentTerrain.SetPoint(50, 50, 40000);
+        session_.document.CurrentTerrain.SetPoint(50, 50, 40000);
     }
 
     /// What the effect makes of the terrain with these settings, and with the window's chance.
     std::vector<Height> Expected(const std::optional<ErosionSettings>& settings) {
-        clsTerrain terrain = session_.CurrentTerrain;
+        clsTerrain terrain = session_.document.CurrentTerrain;
         RecordingHost host;
         host.chance = chance_;
         QBFilter::RiverBed riverBed;
         QBFilter::ApplyEffect(12, terrain, 1, {.extent = terrain.XPoints()},
-                              {session_.elevator, riverBed, [&] { return settings; }}, host);
+                              {session_.tools.elevator, riverBed, [&] { return settings; }}, host);
         return AllCells(terrain);
     }
 };

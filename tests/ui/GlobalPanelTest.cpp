@@ -38,7 +38,7 @@ class Landscape : public WindowFixture {
         return user.seen;
     }
 
-    clsTerrain& terrain_ = session_.CurrentTerrain;
+    clsTerrain& terrain_ = session_.document.CurrentTerrain;
 };
 
 TEST_F(Landscape, TakesPlanetsFromTheirButtons) {

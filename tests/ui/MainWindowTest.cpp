@@ -15,7 +15,7 @@
 #include "terrain/TerReader.h"
 #include "tests/support/Grids.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/PictureBox.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 namespace {
@@ -30,12 +30,13 @@ class MainWindow : public WindowFixture {
 TEST_F(MainWindow, StartsEmptyWithItsTitleAndTheListOfSets) {
     ASSERT_TRUE(StartWindow());
     EXPECT_EQ(window_->windowTitle(), "Quillbrand  [noname]");
-    EXPECT_TRUE(session_.TerrainEmpty);
+    EXPECT_TRUE(session_.document.TerrainEmpty);
     for (const char* key : {"Speichern", "SpeichernAls", "Print", "Restore", "Backup"})
         EXPECT_FALSE(ToolIsEnabled(key)) << key;
     for (const char* key : {"Neu", "Öffnen", "Löschen", "Hilfe", "Zoom in", "Zoom out", "Zoom100"})
         EXPECT_TRUE(ToolIsEnabled(key)) << key;
-    EXPECT_EQ(Find<QLineEdit>("txtRandom")->text(), QString::number(session_.RandomSeedValue));
+    EXPECT_EQ(Find<QLineEdit>("txtRandom")->text(),
+              QString::number(session_.tools.RandomSeedValue));
 }
 
 TEST_F(MainWindow, EndsWithAMessageWhenThereAreNoSets) {
@@ -51,7 +52,7 @@ TEST_F(MainWindow, ProducesWhatTheBatchProgramProduces) {
     Find<QSlider>("sldIteration")->setValue(4);
     Find<QSlider>("sldStructure")->setValue(1);
     Produce("654321");
-    EXPECT_FALSE(session_.TerrainEmpty);
+    EXPECT_FALSE(session_.document.TerrainEmpty);
 
     QProcess batch;
     batch.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
@@ -63,11 +64,12 @@ TEST_F(MainWindow, ProducesWhatTheBatchProgramProduces) {
     clsTerrain expected;
     StoreTer(ParseTer(Contents(folder_ / "batch.ter"), "batch.ter"), expected);
     // The batch terrain had 257 points; the window's has too: only the first 129 are produced.
-    EXPECT_TRUE(TextOf(session_.CurrentTerrain) == TextOf(expected));
+    EXPECT_TRUE(TextOf(session_.document.CurrentTerrain) == TextOf(expected));
 
     const Picture& shown = Find<PictureBox>("Picture1")->Raster();
-    EXPECT_EQ(shown.Point(40, 60),
-              PaletteTable(HeightToPaletteIndex(session_.CurrentTerrain.GetPoint(40, 60)), 0));
+    EXPECT_EQ(
+        shown.Point(40, 60),
+        PaletteTable(HeightToPaletteIndex(session_.document.CurrentTerrain.GetPoint(40, 60)), 0));
 }
 
 TEST_F(MainWindow, LeavesTheTerrainAloneInAPreview) {
@@ -106,7 +108,7 @@ TEST_F(MainWindow, AsksAtTheExitAndFollowsEachAnswer) {
         EXPECT_TRUE(window_->close());
         EXPECT_TRUE(std::filesystem::exists(folder_ / "x.ter"));
     }
-    session_.TerrainSaved = false;
+    session_.document.TerrainSaved = false;
     window_->show();
     ModalUser user({Press("No")});
     EXPECT_TRUE(window_->close());
@@ -121,7 +123,7 @@ TEST_F(MainWindow, ExitsWithoutAQuestionAfterASaveAndRemovesTheBackup) {
         ModalUser user({Press("TerraGen-File [.TER]"), ChoosePath(folder_ / "x.ter")});
         ClickTool("Speichern");
     }
-    EXPECT_EQ(session_.CurrentFile, (folder_ / "x.ter").string());
+    EXPECT_EQ(session_.document.CurrentFile, (folder_ / "x.ter").string());
     EXPECT_EQ(window_->windowTitle(),
               QString::fromStdString("Quillbrand  [" + (folder_ / "x.ter").string() + "]"));
     EXPECT_TRUE(window_->close());
@@ -140,9 +142,9 @@ TEST_F(MainWindow, StaysAsItWasWhenAFileCannotBeReadOrWritten) {
         EXPECT_TRUE(user.seen[0].contains("short.ter is cut short")) << user.seen[0].toStdString();
     }
     EXPECT_EQ(Heights(), before);
-    EXPECT_EQ(session_.CurrentFile, "noname");
+    EXPECT_EQ(session_.document.CurrentFile, "noname");
     std::filesystem::create_directory(folder_ / "folder.ter");
-    session_.CurrentFile = (folder_ / "folder.ter").string();
+    session_.document.CurrentFile = (folder_ / "folder.ter").string();
     {
         ModalUser user({Press("OK")});
         ClickTool("Speichern");
@@ -150,7 +152,7 @@ TEST_F(MainWindow, StaysAsItWasWhenAFileCannotBeReadOrWritten) {
         EXPECT_TRUE(user.seen[0].contains("Is a directory")) << user.seen[0].toStdString();
     }
     EXPECT_EQ(Heights(), before);
-    EXPECT_FALSE(session_.TerrainSaved);
+    EXPECT_FALSE(session_.document.TerrainSaved);
     EXPECT_FALSE(session_.TerrainBusy);
     WaitUntilReady();
 }
@@ -162,16 +164,16 @@ TEST_F(MainWindow, OpensAFileNamedAtTheStartAndOneThatIsDropped) {
         ModalUser user({Press("TerraGen-File [.TER]"), ChoosePath(folder_ / "x.ter")});
         ClickTool("SpeichernAls");
     }
-    const auto saved = TextOf(session_.CurrentTerrain);
+    const auto saved = TextOf(session_.document.CurrentTerrain);
     window_.reset();
     session_ = Session();
     ASSERT_TRUE(StartWindow((folder_ / "x.ter").string()));
-    EXPECT_TRUE(TextOf(session_.CurrentTerrain) == saved);
-    EXPECT_FALSE(session_.TerrainEmpty);
-    EXPECT_EQ(session_.CurrentFile, (folder_ / "x.ter").string());
+    EXPECT_TRUE(TextOf(session_.document.CurrentTerrain) == saved);
+    EXPECT_FALSE(session_.document.TerrainEmpty);
+    EXPECT_EQ(session_.document.CurrentFile, (folder_ / "x.ter").string());
 
     WaitUntilReady();
-    session_.CurrentTerrain.Fill(0);
+    session_.document.CurrentTerrain.Fill(0);
     QMimeData dragged;
     dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString((folder_ / "x.ter").string()))});
     QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
@@ -179,7 +181,7 @@ TEST_F(MainWindow, OpensAFileNamedAtTheStartAndOneThatIsDropped) {
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window_.get(), &drop);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return TextOf(session_.CurrentTerrain) == saved; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return TextOf(session_.document.CurrentTerrain) == saved; }));
 }
 
 TEST_F(MainWindow, TakesABackupAndComesBackToIt) {
@@ -194,7 +196,7 @@ TEST_F(MainWindow, TakesABackupAndComesBackToIt) {
         ClickTool("Löschen");
         EXPECT_EQ(user.seen, QStringList("Terrain clear: Terrain clear ?  Are you sure ?"));
     }
-    EXPECT_TRUE(session_.TerrainEmpty);
+    EXPECT_TRUE(session_.document.TerrainEmpty);
     EXPECT_NE(Heights(), before);
     ClickTool("Restore");
     EXPECT_EQ(Heights(), before);
@@ -203,7 +205,7 @@ TEST_F(MainWindow, TakesABackupAndComesBackToIt) {
 TEST_F(MainWindow, BeatsItsHeartByTheBusyFlag) {
     ASSERT_TRUE(StartWindow());
     session_.TerrainBusy = true;
-    session_.CurrentTerrain.pProgress = 137;
+    session_.document.CurrentTerrain.pProgress = 137;
     Find<QLabel>("InfoText")->setText("work");
     auto* tools = Find<QToolBar>("Toolbar1");
     ASSERT_TRUE(QTest::qWaitFor([&] { return !tools->isEnabled(); }));
@@ -221,7 +223,7 @@ TEST_F(MainWindow, BeatsItsHeartByTheBusyFlag) {
 TEST_F(MainWindow, KeepsOutOfARunningCommand) {
     ASSERT_TRUE(StartWindow());
     Produce("121");
-    session_.CurrentTerrain.SetPoint(3, 3, 99999);
+    session_.document.CurrentTerrain.SetPoint(3, 3, 99999);
     auto* start = Find<QAbstractButton>("cmdGenerator");
     start->setFocus();
     host_->Busy(true);
@@ -240,7 +242,7 @@ TEST_F(MainWindow, KeepsOutOfARunningCommand) {
 TEST_F(MainWindow, LivesWithAScaleThatLeavesEveryRange) {
     ASSERT_TRUE(StartWindow());
     Produce("131");
-    session_.CurrentTerrain.ScaleT(3e38f);
+    session_.document.CurrentTerrain.ScaleT(3e38f);
     host_->ActualScreen();
     auto* picture = Find<PictureBox>("Picture1");
     QTest::mouseMove(picture, picture->rect().center());
@@ -256,16 +258,16 @@ TEST_F(MainWindow, ZoomsWithinItsLimits) {
     ASSERT_TRUE(StartWindow());
     Produce("777");
     ClickTool("Zoom100");
-    EXPECT_EQ(session_.ViewZoom, 1.0);
+    EXPECT_EQ(session_.tools.ViewZoom, 1.0);
     EXPECT_EQ(Find<QLabel>("sBarPanel1")->text(), "256 x 256   Zoom =100.%");
     EXPECT_EQ(Find<PictureBox>("Picture1")->width(), 259);
     for (int i = 0; i < 4; ++i)
         ClickTool("Zoom out");
-    EXPECT_EQ(session_.ViewZoom, 0.25);
+    EXPECT_EQ(session_.tools.ViewZoom, 0.25);
     for (int i = 0; i < 6; ++i)
         ClickTool("Zoom in");
     const auto* area = Find<QWidget>("PictureArea");
-    EXPECT_GT(session_.ViewZoom, 2.0);
+    EXPECT_GT(session_.tools.ViewZoom, 2.0);
     EXPECT_LE(Find<PictureBox>("Picture1")->width(), std::min(area->width(), area->height()));
 }
 
@@ -287,7 +289,7 @@ TEST_F(MainWindow, ShowsSectionsAndSaysWhyNot) {
     Click("OptXYView");
     EXPECT_FALSE(Find<QWidget>("PicZ")->isVisible());
 
-    session_.CurrentTerrain.Fill(5);
+    session_.document.CurrentTerrain.Fill(5);
     ModalUser user({Press("OK")});
     Click("optZView");
     EXPECT_EQ(user.seen, QStringList("Z-view: Terrain flat"));
@@ -318,7 +320,7 @@ TEST_F(MainWindow, StoresAndLoadsTheGeneratorsSettings) {
     EXPECT_EQ(Find<QSlider>("Slider3")->value(), 6);
     EXPECT_TRUE(Find<QCheckBox>("chkHighResolution")->isChecked());
     EXPECT_EQ(seed->text(), "98765");
-    EXPECT_EQ(session_.RandomSeedValue, 98765);
+    EXPECT_EQ(session_.tools.RandomSeedValue, 98765);
 }
 
 TEST_F(MainWindow, FollowsTheMouseInTheStatusBar) {

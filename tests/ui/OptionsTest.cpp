@@ -55,7 +55,7 @@ class OptionsDialog : public WindowFixture {
 
 TEST_F(OptionsDialog, StoresWhatIsTickedAndLeavesTheRest) {
     Start("; mine\n[Start]\nOptTer=4\nOther=x\n[Terrain]\nDirectory=/hills\n");
-    EXPECT_EQ(session_.CurrentTerrain.XPoints(), 2049);
+    EXPECT_EQ(session_.document.CurrentTerrain.XPoints(), 2049);
     Open([](QWidget* modal) {
         EXPECT_EQ(modal->findChild<QListWidget*>("List1")->currentItem()->text(), "Greyscala");
         for (const char* name : {"Option21", "Option22"})
@@ -75,9 +75,9 @@ TEST_F(OptionsDialog, StoresWhatIsTickedAndLeavesTheRest) {
         ClickIn(modal, "OKButton");
     });
     EXPECT_EQ(Settings(), "; mine\n[Start]\nOptTer= 3\nOther=x\noptzoom= 2\ncolor= 7\n" + rest);
-    EXPECT_EQ(session_.ResizeMode, 2);
-    EXPECT_EQ(session_.PaletteRow, 7);
-    EXPECT_EQ(session_.CurrentTerrain.XPoints(), 2049) << "the size is for the next start";
+    EXPECT_EQ(session_.settings.ResizeMode, 2);
+    EXPECT_EQ(session_.settings.PaletteRow, 7);
+    EXPECT_EQ(session_.document.CurrentTerrain.XPoints(), 2049) << "the size is for the next start";
 }
 
 TEST_F(OptionsDialog, ColoursTheWindowAtOnceAndBackOnCancel) {
@@ -109,7 +109,7 @@ TEST_F(OptionsDialog, ColoursTheWindowAtOnceAndBackOnCancel) {
 
 TEST_F(OptionsDialog, StaysOpenWhenNothingCanBeStored) {
     Start("");
-    session_.IniPath = "/proc/nowhere/Quillbrand.ini";
+    session_.settings.IniPath = "/proc/nowhere/Quillbrand.ini";
     Open([](QWidget* modal) {
         ModalUser user({Press("OK"), ChoosePath("/"), Press("OK")});
         ClickIn(modal, "Option21");
@@ -121,7 +121,7 @@ TEST_F(OptionsDialog, StaysOpenWhenNothingCanBeStored) {
         EXPECT_EQ(user.seen.filter("/proc/nowhere").size(), 2);
         ClickIn(modal, "CancelButton");
     });
-    EXPECT_EQ(session_.ResizeMode, 0);
+    EXPECT_EQ(session_.settings.ResizeMode, 0);
 }
 
 TEST_F(OptionsDialog, StoresAFolderAtOnceButNotACancelledOne) {

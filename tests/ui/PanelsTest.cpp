@@ -7,10 +7,10 @@
 #include "tests/support/Grids.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/EditPanel.h"
-#include "ui/EffectsPanel.h"
-#include "ui/GlobalPanel.h"
-#include "ui/ObjectsPanel.h"
+#include "ui/panels/EditPanel.h"
+#include "ui/panels/EffectsPanel.h"
+#include "ui/panels/GlobalPanel.h"
+#include "ui/panels/ObjectsPanel.h"
 
 namespace quillbrand {
 namespace {
@@ -70,27 +70,27 @@ TEST_F(Effects, AreVisitedByTheTabKeyAsTheEyeGoes) {
 
 TEST_F(Effects, KeepsStrengthsOneOff) {
     Keys("sldEffectFactor", {Qt::Key_Right, Qt::Key_Right});
-    EXPECT_EQ(session_.EffectStrength[0], 1);
-    EXPECT_EQ(session_.EffectStrength[1], 3);
+    EXPECT_EQ(session_.tools.EffectStrength[0], 1);
+    EXPECT_EQ(session_.tools.EffectStrength[1], 3);
 
-    session_.EffectStrength[10] = 7;
+    session_.tools.EffectStrength[10] = 7;
     Click(optimized);
     EXPECT_EQ(Value("sldEffectFactor"), 7);
-    EXPECT_EQ(session_.EffectStrength[11], 7) << "the slider moved, so it wrote one above";
+    EXPECT_EQ(session_.tools.EffectStrength[11], 7) << "the slider moved, so it wrote one above";
     Keys("sldEffectFactor", {Qt::Key_End});
-    EXPECT_EQ(session_.EffectStrength[10], 7);
-    EXPECT_EQ(session_.EffectStrength[11], 10);
+    EXPECT_EQ(session_.tools.EffectStrength[10], 7);
+    EXPECT_EQ(session_.tools.EffectStrength[11], 10);
 
     Click(smooth);
     EXPECT_EQ(Value("sldEffectFactor"), 1);
-    EXPECT_EQ(session_.EffectStrength[1], 1);
-    session_.EffectStrength[1] = 9;
+    EXPECT_EQ(session_.tools.EffectStrength[1], 1);
+    session_.tools.EffectStrength[1] = 9;
     Click(smooth);
-    EXPECT_EQ(session_.EffectStrength[1], 9) << "the slider stayed, so it wrote nothing";
+    EXPECT_EQ(session_.tools.EffectStrength[1], 9) << "the slider stayed, so it wrote nothing";
 }
 
 TEST_F(Effects, AreChosenByArrowKeysAsByClicks) {
-    session_.EffectStrength.fill(4);
+    session_.tools.EffectStrength.fill(4);
     Find<QWidget>(smooth)->setFocus();
     Keys(smooth, {Qt::Key_Down});
     EXPECT_FALSE(IsTicked(smooth));
@@ -120,7 +120,7 @@ TEST_F(Effects, ShowTheLimitsInMetresAndResetThem) {
     EXPECT_EQ(Text("txtZMin"), "300");
     Keys("sldZMax", {Qt::Key_Left});
     EXPECT_EQ(Text("txtZmax"), "899.9817");
-    session_.CurrentTerrain.ScaleT(10);
+    session_.document.CurrentTerrain.ScaleT(10);
     host_->ActualScreen();
     EXPECT_EQ(Text("txtZMin"), "100");
     Click("cmdZrangeReset");
@@ -136,22 +136,22 @@ TEST_F(Effects, RefuseAnEmptyTerrainAndDoNothingElse) {
     Click("cmdStartEffects");
     EXPECT_EQ(user.seen, QStringList("Effects: Terrain empty"));
     EXPECT_EQ(Heights(), before);
-    EXPECT_TRUE(session_.TerrainEmpty);
+    EXPECT_TRUE(session_.document.TerrainEmpty);
     EXPECT_FALSE(session_.TerrainBusy);
 }
 
 TEST_F(Effects, RunWithTheStrengthAndTheLimitsOfThePanel) {
     Produce("135");
-    session_.EffectStrength[0] = 0;
-    session_.EffectStrength[1] = 6;
+    session_.tools.EffectStrength[0] = 0;
+    session_.tools.EffectStrength[1] = 6;
     Click("optZView");
     ShowTab("Effects");
     Keys("sldZMin", {Qt::Key_PageUp, Qt::Key_PageUp});
-    clsTerrain expected = session_.CurrentTerrain;
+    clsTerrain expected = session_.document.CurrentTerrain;
     RecordingHost host;
     QBFilter::RiverBed riverBed;
     QBFilter::ApplyEffect(1, expected, 6, {.extent = expected.XPoints(), .zMin = 8192 - 32768},
-                          {session_.elevator, riverBed, {}}, host);
+                          {session_.tools.elevator, riverBed, {}}, host);
     const auto before = Heights();
     Click("cmdStartEffects");
     EXPECT_EQ(Heights(), AllCells(expected));
@@ -159,7 +159,7 @@ TEST_F(Effects, RunWithTheStrengthAndTheLimitsOfThePanel) {
     EXPECT_TRUE(Find<QWidget>("Picture1")->isVisible());
     EXPECT_FALSE(session_.TerrainBusy);
 
-    session_.EffectStrength[1] = 0;
+    session_.tools.EffectStrength[1] = 0;
     Click("cmdStartEffects");
     EXPECT_EQ(Heights(), AllCells(expected)) << "too weak to smooth";
 }
@@ -188,11 +188,11 @@ TEST_F(Effects, TakeTheSeedOfTheGeneratorForTheRiverBed) {
     Produce("314159");
     ShowTab("Effects");
     Click(riverErosion);
-    clsTerrain expected = session_.CurrentTerrain;
+    clsTerrain expected = session_.document.CurrentTerrain;
     RecordingHost host;
     QBFilter::RiverBed riverBed{folder_.Path(), "", "314"};
     QBFilter::ApplyEffect(5, expected, 1, {.extent = expected.XPoints()},
-                          {session_.elevator, riverBed, {}}, host);
+                          {session_.tools.elevator, riverBed, {}}, host);
     Click("cmdStartEffects");
     EXPECT_TRUE(Heights() == AllCells(expected));
 }
@@ -227,7 +227,7 @@ TEST_F(Panels, ShowTheHeaderOfTheTerrain) {
     EXPECT_EQ(Text("txtMinTerrain"), "-300");
     EXPECT_EQ(Text("txtMaxTerrain"), "900");
     EXPECT_EQ(Text("txtPlanetRadius"), "6370");
-    clsTerrain& terrain = session_.CurrentTerrain;
+    clsTerrain& terrain = session_.document.CurrentTerrain;
     terrain.ScaleT(250.5F);
     terrain.CRAD(1737.6F);
     terrain.CRVM(1);
@@ -248,9 +248,9 @@ TEST_F(Panels, HandTheUsersChoicesToTheTerrain) {
     Click("chkCurved");
     Click("chkFixHeight");
     host_->ActualScreen();
-    EXPECT_EQ(session_.CurrentTerrain.CRVM(), 1);
+    EXPECT_EQ(session_.document.CurrentTerrain.CRVM(), 1);
     EXPECT_TRUE(IsTicked("chkCurved"));
-    EXPECT_TRUE(session_.CurrentTerrain.FixHeight());
+    EXPECT_TRUE(session_.document.CurrentTerrain.FixHeight());
 }
 
 TEST_F(Panels, FitTheTabs) {

@@ -3,8 +3,8 @@
 
 #include "tests/support/PdfTools.h"
 #include "tests/ui/WindowFixture.h"
-#include "ui/PictureBox.h"
-#include "ui/dlgPrint.h"
+#include "ui/dialogs/dlgPrint.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 namespace {

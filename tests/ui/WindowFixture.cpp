@@ -134,7 +134,7 @@ void WindowFixture::Produce(const char* seed) {
 }
 
 std::vector<Height> WindowFixture::Heights() {
-    return AllCells(session_.CurrentTerrain);
+    return AllCells(session_.document.CurrentTerrain);
 }
 
 }  // namespace quillbrand

@@ -1,8 +1,8 @@
-#include "ui/dlgSaveAs.h"
+#include "ui/dialogs/dlgSaveAs.h"
 
 #include <QVBoxLayout>
 
-#include "ui/Controls.h"
+#include "ui/controls/Controls.h"
 
 namespace quillbrand {
 

@@ -1,10 +1,10 @@
-#include "ui/ToolStrip.h"
+#include "ui/plan/ToolStrip.h"
 
 #include <QAction>
 #include <QVBoxLayout>
 #include <span>
 
-#include "ui/Icons.h"
+#include "ui/controls/Icons.h"
 
 namespace quillbrand {
 

@@ -1,10 +1,10 @@
-#include "ui/dlgPreview.h"
+#include "ui/dialogs/dlgPreview.h"
 
 #include <QVBoxLayout>
 
 #include "editor/HeightPicture.h"
-#include "ui/Controls.h"
-#include "ui/PictureBox.h"
+#include "ui/controls/Controls.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 

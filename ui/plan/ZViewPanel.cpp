@@ -1,4 +1,4 @@
-#include "ui/ZViewPanel.h"
+#include "ui/plan/ZViewPanel.h"
 
 #include <QGridLayout>
 #include <QSignalBlocker>
@@ -7,9 +7,9 @@
 #include "base/NumberText.h"
 #include "editor/Palette.h"
 #include "editor/ZView.h"
-#include "ui/Controls.h"
-#include "ui/Messages.h"
-#include "ui/PictureBox.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 
@@ -147,10 +147,10 @@ void ZViewPanel::Move(int position, int axis) {
 
 void ZViewPanel::Open(const Picture& plan) {
     PicZView_->Raster() = plan;
-    PicZView_->SetUnits(workplace_.TheSession().CurrentTerrain.Size());
+    PicZView_->SetUnits(workplace_.TheSession().document.CurrentTerrain.Size());
     PicZView_->update();
     DrawColourBar();
-    const int last = std::max(1, workplace_.TheSession().CurrentTerrain.Size() - 1);
+    const int last = std::max(1, workplace_.TheSession().document.CurrentTerrain.Size() - 1);
     for (QSlider* slider : {sldXView_, SldYView_}) {
         const QSignalBlocker quiet(slider);
         slider->setRange(1, last);
@@ -160,7 +160,7 @@ void ZViewPanel::Open(const Picture& plan) {
 
 void ZViewPanel::DrawColourBar() {
     Picture bar(1, PaletteMax + 1);
-    const auto& strip = PaletteStrip(workplace_.TheSession().PaletteRow);
+    const auto& strip = PaletteStrip(workplace_.TheSession().settings.PaletteRow);
     for (int i = 0; i <= PaletteMax; ++i)
         *bar.Row(i) = strip[static_cast<std::size_t>(PaletteMax - i)];
     PicColor_->Raster() = bar;
@@ -168,7 +168,7 @@ void ZViewPanel::DrawColourBar() {
 }
 
 void ZViewPanel::ZView(int position, int axis) {
-    clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
+    clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
     lblZhigh_->setText(high_ + QStringLiteral(" m"));
     lblZlow_->setText(low_ + QStringLiteral(" m"));
     lblColTblMax_->setText(lblZhigh_->text());

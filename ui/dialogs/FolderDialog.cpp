@@ -1,10 +1,10 @@
-#include "ui/FolderDialog.h"
+#include "ui/dialogs/FolderDialog.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
 
-#include "ui/Controls.h"
-#include "ui/Messages.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
 

@@ -1,4 +1,4 @@
-#include "ui/GlobalPanel.h"
+#include "ui/panels/GlobalPanel.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -11,10 +11,10 @@
 #include "base/NumberText.h"
 #include "base/Stdio.h"
 #include "shell/LandscapeArea.h"
-#include "ui/Controls.h"
-#include "ui/Messages.h"
-#include "ui/NumberField.h"
-#include "ui/ShownNumber.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/NumberField.h"
+#include "ui/controls/ShownNumber.h"
+#include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
 
@@ -203,12 +203,12 @@ void GlobalPanel::FinishLeaving() {
 void GlobalPanel::Change(const QString& command, const std::function<void(clsTerrain&)>& change) {
     Host& host = workplace_.TheHost();
     RunCommand(workplace_.Window(), host, command,
-               [&] { change(workplace_.TheSession().CurrentTerrain); });
+               [&] { change(workplace_.TheSession().document.CurrentTerrain); });
     host.ActualScreen();
 }
 
 void GlobalPanel::Refresh() {
-    clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
+    clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
     const double scale = terrain.ScaleT();
     Renew(txtMetersPoint_, Shown(STDIO::ClampValue(1.0, 100.0, scale), "#####.###"));
     Renew(txtMinTerrain_, Shown(terrain.MinTU() * scale, "#######0"));
@@ -254,7 +254,7 @@ QString GlobalPanel::HighestText() const {
 }
 
 void GlobalPanel::chkCurved_Click(bool ticked) {
-    workplace_.TheSession().CurrentTerrain.CRVM(ticked ? 1 : 0);
+    workplace_.TheSession().document.CurrentTerrain.CRVM(ticked ? 1 : 0);
 }
 
 void GlobalPanel::cmdEarth_Click() {
@@ -305,7 +305,7 @@ void GlobalPanel::txtTerSizeMeters_GotFocus() {
 }
 
 void GlobalPanel::txtTerSizeMeters_Validate(const std::string& text) {
-    const clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
+    const clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
     txtTerSizeMeters_->setText(QString::fromStdString(LimitedSide(terrain, text)));
 }
 

@@ -1,16 +1,16 @@
-#include "ui/GeneratorPanel.h"
+#include "ui/panels/GeneratorPanel.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QVBoxLayout>
 
 #include "shell/GeneratorCommands.h"
-#include "ui/Controls.h"
-#include "ui/FileDialogs.h"
-#include "ui/LabelledSlider.h"
-#include "ui/Messages.h"
-#include "ui/dlgGenModify.h"
-#include "ui/dlgPreview.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/LabelledSlider.h"
+#include "ui/dialogs/FileDialogs.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/dialogs/dlgGenModify.h"
+#include "ui/dialogs/dlgPreview.h"
 
 namespace quillbrand {
 
@@ -121,7 +121,7 @@ std::string GeneratorPanel::SeedText() const {
 
 void GeneratorPanel::LoadPerlinList() {
     lstPerlinSets_->clear();
-    const PerlinSetTable& sets = workplace_.TheSession().PerlinSets;
+    const PerlinSetTable& sets = workplace_.TheSession().tools.PerlinSets;
     for (int row = 0; row < sets.ListedRows(); ++row)
         lstPerlinSets_->addItem(
             QString::fromStdString(sets.rows[static_cast<std::size_t>(row)].name));
@@ -130,8 +130,8 @@ void GeneratorPanel::LoadPerlinList() {
 
 void GeneratorPanel::Refresh() {
     const Session& session = workplace_.TheSession();
-    cmdGenModify_->setEnabled(!session.TerrainEmpty && !chkClearTerrain_->isChecked());
-    const QString seed = QString::number(session.RandomSeedValue);
+    cmdGenModify_->setEnabled(!session.document.TerrainEmpty && !chkClearTerrain_->isChecked());
+    const QString seed = QString::number(session.tools.RandomSeedValue);
     if (txtRandom_->text() != seed)
         txtRandom_->setText(seed);
 }
@@ -177,7 +177,7 @@ void GeneratorPanel::cmdPreview_Click() {
     Host& host = workplace_.TheHost();
     clsTerrain preview = PreviewTerrain(session, Settings(), host);
     dlgPreview dialog(workplace_.Window());
-    dialog.ShowHeights(preview, session.PaletteRow, host);
+    dialog.ShowHeights(preview, session.settings.PaletteRow, host);
     host.Busy(false);
     dialog.exec();
 }
@@ -185,32 +185,34 @@ void GeneratorPanel::cmdPreview_Click() {
 void GeneratorPanel::cmdRandom_Click() {
     RandomSource& chance = workplace_.TheHost().Chance();
     chance.ReseedFromClock();
-    workplace_.TheSession().RandomSeedValue = NewSeed(chance);
+    workplace_.TheSession().tools.RandomSeedValue = NewSeed(chance);
     workplace_.TheHost().ActualScreen();
 }
 
 void GeneratorPanel::txtRandom_Change(const QString& text) {
-    workplace_.TheSession().RandomSeedValue = SeedOf(text.toStdString());
+    workplace_.TheSession().tools.RandomSeedValue = SeedOf(text.toStdString());
 }
 
 void GeneratorPanel::cmdGenModify_Click() {
-    dlgGenModify dialog(workplace_.TheSession().ModifyMode, workplace_.Window());
+    dlgGenModify dialog(workplace_.TheSession().tools.ModifyMode, workplace_.Window());
     if (dialog.exec() == QDialog::Accepted)
-        workplace_.TheSession().ModifyMode = dialog.Mode();
+        workplace_.TheSession().tools.ModifyMode = dialog.Mode();
 }
 
 void GeneratorPanel::cmdGeneratorSaveSetting_Click() {
     const Session& session = workplace_.TheSession();
     const auto chosen = ChooseToSave(
-        workplace_.Window(), SettingRequest(QStringLiteral("Save Setting"), session.ProgramFolder));
+        workplace_.Window(),
+        SettingRequest(QStringLiteral("Save Setting"), session.settings.ProgramFolder));
     if (chosen)
-        SaveGeneratorSettings(chosen->path, Settings(), session.ModifyMode);
+        SaveGeneratorSettings(chosen->path, Settings(), session.tools.ModifyMode);
 }
 
 void GeneratorPanel::cmdGenLoadSetting_Click() {
     Session& session = workplace_.TheSession();
     const auto chosen = ChooseToOpen(
-        workplace_.Window(), SettingRequest(QStringLiteral("Load Setting"), session.ProgramFolder));
+        workplace_.Window(),
+        SettingRequest(QStringLiteral("Load Setting"), session.settings.ProgramFolder));
     if (!chosen)
         return;
     Show(LoadGenerator(session, chosen->path, lstPerlinSets_->currentRow()));

@@ -1,4 +1,4 @@
-#include "ui/NumberField.h"
+#include "ui/controls/NumberField.h"
 
 #include <QKeyEvent>
 

@@ -1,4 +1,4 @@
-#include "ui/dlgGenModify.h"
+#include "ui/dialogs/dlgGenModify.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 #include "generator/GeneratorSettings.h"
-#include "ui/Controls.h"
+#include "ui/controls/Controls.h"
 
 namespace quillbrand {
 

@@ -1,13 +1,13 @@
-#include "ui/dlgFltErosion.h"
+#include "ui/dialogs/dlgFltErosion.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QSlider>
 #include <QVBoxLayout>
 
-#include "ui/Controls.h"
-#include "ui/FileDialogs.h"
-#include "ui/Messages.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/FileDialogs.h"
+#include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
 
@@ -131,15 +131,17 @@ void dlgFltErosion::Show(const ErosionSettings& settings) {
 }
 
 void dlgFltErosion::Command1_Click() {
-    const auto chosen = ChooseToSave(this, SettingRequest(QStringLiteral("Save Setting"),
-                                                          workplace_.TheSession().ProgramFolder));
+    const auto chosen =
+        ChooseToSave(this, SettingRequest(QStringLiteral("Save Setting"),
+                                          workplace_.TheSession().settings.ProgramFolder));
     if (chosen)
         SaveErosionSettings(chosen->path, Settings());
 }
 
 void dlgFltErosion::Command2_Click() {
-    const auto chosen = ChooseToOpen(this, SettingRequest(QStringLiteral("Load Setting"),
-                                                          workplace_.TheSession().ProgramFolder));
+    const auto chosen =
+        ChooseToOpen(this, SettingRequest(QStringLiteral("Load Setting"),
+                                          workplace_.TheSession().settings.ProgramFolder));
     if (chosen)
         Show(LoadErosionSettings(chosen->path));
 }

@@ -1,4 +1,4 @@
-#include "ui/EffectsPanel.h"
+#include "ui/panels/EffectsPanel.h"
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -8,12 +8,12 @@
 #include "base/NumberText.h"
 #include "effects/QBFilter.h"
 #include "shell/EffectCommands.h"
-#include "ui/Controls.h"
-#include "ui/LabelledSlider.h"
-#include "ui/Messages.h"
-#include "ui/ShownNumber.h"
-#include "ui/dlgFltErosion.h"
-#include "ui/frmElevator.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/LabelledSlider.h"
+#include "ui/controls/ShownNumber.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/dialogs/dlgFltErosion.h"
+#include "ui/dialogs/frmElevator.h"
 
 namespace quillbrand {
 
@@ -179,11 +179,11 @@ void EffectsPanel::ConnectControls() {
 
 void EffectsPanel::optFilter_Click(int index) {
     SelectedEffect_ = index;
-    sldEffectFactor_->setValue(workplace_.TheSession().EffectStrength.at(std::size_t(index)));
+    sldEffectFactor_->setValue(workplace_.TheSession().tools.EffectStrength.at(std::size_t(index)));
 }
 
 void EffectsPanel::sldEffectFactor_Change(int value) {
-    workplace_.TheSession().EffectStrength.at(std::size_t(SelectedEffect_) + 1) = value;
+    workplace_.TheSession().tools.EffectStrength.at(std::size_t(SelectedEffect_) + 1) = value;
 }
 
 void EffectsPanel::sldZMin_Change() {
@@ -199,7 +199,7 @@ void EffectsPanel::sldZMax_Change() {
 }
 
 void EffectsPanel::Refresh() {
-    const clsTerrain& terrain = workplace_.TheSession().CurrentTerrain;
+    const clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
     const auto metres = [&](const QSlider* limit) {
         return ShownNumber([&] {
             return PlainText(terrain.GetV2Meter(static_cast<float>(limit->value() - sliderZero)));
@@ -227,7 +227,7 @@ std::optional<ErosionSettings> EffectsPanel::AskErosion() {
 
 void EffectsPanel::cmdStartEffects_Click() {
     Session& session = workplace_.TheSession();
-    if (session.TerrainEmpty) {
+    if (session.document.TerrainEmpty) {
         TellUser(workplace_.Window(), QStringLiteral("Terrain empty"), QStringLiteral("Effects"));
         return;
     }
@@ -242,14 +242,15 @@ void EffectsPanel::cmdStartEffects_Click() {
         host.Yield();
     };
     try {
-        StartEffect(session,
-                    {.code = code,
-                     .strength = static_cast<float>(session.EffectStrength.at(std::size_t(code))),
-                     .zMin = sldZMin_->value() - sliderZero,
-                     .zMax = sldZMax_->value() - sliderZero,
-                     .seed = workplace_.SeedText(),
-                     .startErosion = [this] { return AskErosion(); }},
-                    host);
+        StartEffect(
+            session,
+            {.code = code,
+             .strength = static_cast<float>(session.tools.EffectStrength.at(std::size_t(code))),
+             .zMin = sldZMin_->value() - sliderZero,
+             .zMax = sldZMax_->value() - sliderZero,
+             .seed = workplace_.SeedText(),
+             .startErosion = [this] { return AskErosion(); }},
+            host);
     } catch (...) {
         // Its fields may still tell of heights that were taken back.
         showTerrain();

@@ -1,12 +1,12 @@
-#include "ui/dlgSavePerlinsetNew.h"
+#include "ui/dialogs/dlgSavePerlinsetNew.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 
 #include "shell/TerrainCommands.h"
-#include "ui/Controls.h"
-#include "ui/FileDialogs.h"
-#include "ui/Messages.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/FileDialogs.h"
+#include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
 
@@ -43,7 +43,7 @@ void dlgSavePerlinsetNew::SavePerlinSet() {
     const auto chosen = ChooseToSave(this, {.title = QStringLiteral("PerlinSets save ..."),
                                             .filter = QStringLiteral("PerlinSets|*.QPS"),
                                             .defaultExtension = QStringLiteral("QPS"),
-                                            .startFolder = session.ProgramFolder,
+                                            .startFolder = session.settings.ProgramFolder,
                                             .fileName = Text1_->text().trimmed()});
     if (!chosen)
         return;

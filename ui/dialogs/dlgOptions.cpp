@@ -1,4 +1,4 @@
-#include "ui/dlgOptions.h"
+#include "ui/dialogs/dlgOptions.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -11,10 +11,10 @@
 
 #include "editor/Palette.h"
 #include "shell/RegExt.h"
-#include "ui/Controls.h"
-#include "ui/FolderDialog.h"
-#include "ui/Messages.h"
 #include "ui/Theme.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/FolderDialog.h"
+#include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
 
@@ -238,7 +238,7 @@ void dlgOptions::chkRegTERFile_Click() {
 
 void dlgOptions::ChooseFolder(const MdlFolder::Target& target) {
     const Session& session = workplace_.TheSession();
-    FolderDialog dialog(Words(target.title), session.ProgramFolder, this);
+    FolderDialog dialog(Words(target.title), session.settings.ProgramFolder, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     const std::string folder = dialog.Folder().toStdString();

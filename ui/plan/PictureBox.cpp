@@ -1,4 +1,4 @@
-#include "ui/PictureBox.h"
+#include "ui/plan/PictureBox.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,9 +1,9 @@
-#include "ui/ObjectsPanel.h"
+#include "ui/panels/ObjectsPanel.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/Controls.h"
+#include "ui/controls/Controls.h"
 
 namespace quillbrand {
 

@@ -1,4 +1,4 @@
-#include "ui/dlgPrint.h"
+#include "ui/dialogs/dlgPrint.h"
 
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -8,9 +8,9 @@
 #include <QVBoxLayout>
 
 #include "base/Fault.h"
-#include "ui/Controls.h"
-#include "ui/Messages.h"
-#include "ui/PictureBox.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 

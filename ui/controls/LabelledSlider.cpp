@@ -1,4 +1,4 @@
-#include "ui/LabelledSlider.h"
+#include "ui/controls/LabelledSlider.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "ui/frmElevator.h"
+#include "ui/dialogs/frmElevator.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -11,9 +11,9 @@
 #include "base/Fault.h"
 #include "base/Text.h"
 #include "effects/QBTools2.h"
-#include "ui/Controls.h"
-#include "ui/Messages.h"
-#include "ui/PictureBox.h"
+#include "ui/controls/Controls.h"
+#include "ui/dialogs/Messages.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 
@@ -137,7 +137,7 @@ bool frmElevator::eventFilter(QObject* watched, QEvent* event) {
 }
 
 Elevator& frmElevator::TheElevator() {
-    return workplace_.TheSession().elevator;
+    return workplace_.TheSession().tools.elevator;
 }
 
 void frmElevator::Form_Load() {

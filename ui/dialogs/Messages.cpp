@@ -1,4 +1,4 @@
-#include "ui/Messages.h"
+#include "ui/dialogs/Messages.h"
 
 #include <QMessageBox>
 #include <new>

@@ -1,12 +1,12 @@
-#include "ui/frmAbout.h"
+#include "ui/dialogs/frmAbout.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "ui/Controls.h"
-#include "ui/Icons.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/Icons.h"
 
 namespace quillbrand {
 

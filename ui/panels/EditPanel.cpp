@@ -1,12 +1,12 @@
-#include "ui/EditPanel.h"
+#include "ui/panels/EditPanel.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/Controls.h"
-#include "ui/LabelledSlider.h"
-#include "ui/PictureBox.h"
+#include "ui/controls/Controls.h"
+#include "ui/controls/LabelledSlider.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 

@@ -1,4 +1,4 @@
-#include "ui/Icons.h"
+#include "ui/controls/Icons.h"
 
 #include <QFile>
 #include <QIconEngine>
