@@ -18,7 +18,7 @@ std::string Flag(bool set) {
 }
 
 void New(Batch& batch, const Arguments& given) {
-    ClearTerrain(batch.session, given.Get<int>("points"));
+    ClearTerrain(batch.session.document, given.Get<int>("points"));
 }
 
 void Info(Batch& batch, const Arguments&) {

@@ -93,7 +93,8 @@ void TakeDialogs(frmTer& window, Session& session, WindowHost& host,
     photographer.Take(elevator, "elevator-set");
     GeneratorSettings settings;
     settings.seed = "500500";
-    clsTerrain terrain = PreviewTerrain(session, settings, host);
+    clsTerrain terrain = PreviewTerrain(session.document, session.tools,
+                                        session.settings.ResizeMode, settings, host);
     dlgPreview preview(&window);
     preview.ShowHeights(terrain, 5, host);
     photographer.Take(preview, "preview");
@@ -131,7 +132,8 @@ void TakeAll(const QString& folder, const std::string& programFolder, bool dark)
     settings.seed = "314159";
     settings.finerStructures = true;
     settings.clearTerrain = true;
-    ProduceTerrain(session, 1024, settings, host);
+    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 1024, settings,
+                   host);
     window.ResizePicture();
     window.RebuildPicture();
     host.Busy(false);

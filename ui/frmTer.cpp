@@ -211,7 +211,8 @@ bool frmTer::RunButton(const QString& key) {
     if (key == QStringLiteral("SavePerlin"))
         dlgSavePerlinsetNew(*this).exec();
     else if (key == QStringLiteral("Terragen"))
-        StartTerragen(session_, host_, [this] { document_.FileSave(1); });
+        StartTerragen(session_.document, session_.settings, host_,
+                      [this] { document_.FileSave(1); });
     else if (key == QStringLiteral("Neu"))
         document_.Neu();
     else if (key == QStringLiteral("Öffnen"))

@@ -71,7 +71,7 @@ QIcon StripIcon(int row) {
 dlgOptions::dlgOptions(Workplace& workplace)
     : QDialog(workplace.Window()),
       workplace_(workplace),
-      settings_(LoadOptions(workplace.TheSession())),
+      settings_(LoadOptions(workplace.TheSession().settings)),
       windowBefore_(workplace.Window()->palette()) {
     setObjectName(QStringLiteral("dlgOptions"));
     setWindowTitle(QStringLiteral("Options"));
@@ -202,7 +202,7 @@ void dlgOptions::OKButton_Click() {
     settings.PaletteRow = List1_->currentRow();
     const QColor window = workplace_.Window()->palette().color(QPalette::Window);
     settings.BackColor = ColourOf(window.red(), window.green(), window.blue());
-    SaveOptions(workplace_.TheSession(), settings);
+    SaveOptions(workplace_.TheSession().settings, settings);
     accept();
 }
 
@@ -246,7 +246,7 @@ void dlgOptions::ChooseFolder(const MdlFolder::Target& target) {
         TellUser(this, Words(MdlFolder::noPathText), windowTitle());
         return;
     }
-    const std::string shown = WriteFolder(session, std::string(target.section), folder);
+    const std::string shown = WriteFolder(session.settings, std::string(target.section), folder);
     findChild<QLineEdit*>(Words(target.textBox))->setText(QString::fromStdString(shown));
 }
 

@@ -243,7 +243,7 @@ void EffectsPanel::cmdStartEffects_Click() {
     };
     try {
         StartEffect(
-            session,
+            session.document, session.tools, session.settings,
             {.code = code,
              .strength = static_cast<float>(session.tools.EffectStrength.at(std::size_t(code))),
              .zMin = sldZMin_->value() - sliderZero,

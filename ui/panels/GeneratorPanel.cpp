@@ -165,7 +165,9 @@ void GeneratorPanel::cmdGenerator_Click() {
     workplace_.ShowPlanView();
     if (!size)
         return;
-    ProduceTerrain(workplace_.TheSession(), *size, Settings(), workplace_.TheHost());
+    ProduceTerrain(workplace_.TheSession().document, workplace_.TheSession().tools,
+                   workplace_.TheSession().settings.ResizeMode, *size, Settings(),
+                   workplace_.TheHost());
     workplace_.ResizePicture();
     workplace_.RebuildPicture();
     workplace_.TheHost().Busy(false);
@@ -175,7 +177,8 @@ void GeneratorPanel::cmdGenerator_Click() {
 void GeneratorPanel::cmdPreview_Click() {
     Session& session = workplace_.TheSession();
     Host& host = workplace_.TheHost();
-    clsTerrain preview = PreviewTerrain(session, Settings(), host);
+    clsTerrain preview = PreviewTerrain(session.document, session.tools,
+                                        session.settings.ResizeMode, Settings(), host);
     dlgPreview dialog(workplace_.Window());
     dialog.ShowHeights(preview, session.settings.PaletteRow, host);
     host.Busy(false);
@@ -215,7 +218,7 @@ void GeneratorPanel::cmdGenLoadSetting_Click() {
         SettingRequest(QStringLiteral("Load Setting"), session.settings.ProgramFolder));
     if (!chosen)
         return;
-    Show(LoadGenerator(session, chosen->path, lstPerlinSets_->currentRow()));
+    Show(LoadGenerator(session.tools, chosen->path, lstPerlinSets_->currentRow()));
     workplace_.TheHost().ActualScreen();
 }
 
