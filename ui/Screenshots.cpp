@@ -29,7 +29,7 @@
 #include "ui/dialogs/frmAbout.h"
 #include "ui/dialogs/frmElevator.h"
 #include "ui/frmTer.h"
-#include "ui/plan/PictureBox.h"
+#include "ui/plan/PlanView.h"
 
 namespace quillbrand {
 namespace {
@@ -98,7 +98,7 @@ void TakeDialogs(frmTer& window, Session& session, WindowHost& host,
     dlgPreview preview(&window);
     preview.ShowHeights(terrain, 5, host);
     photographer.Take(preview, "preview");
-    dlgPrint print(window, window.findChild<PictureBox*>("Picture1")->grab().toImage());
+    dlgPrint print(window, window.findChild<PlanView*>()->PrintPicture());
     photographer.Take(print, "print");
 }
 

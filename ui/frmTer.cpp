@@ -12,10 +12,7 @@
 
 #include "base/NumberText.h"
 #include "base/Stdio.h"
-#include "editor/HeightPicture.h"
 #include "editor/Palette.h"
-#include "editor/PointTexts.h"
-#include "editor/View.h"
 #include "shell/TerrainCommands.h"
 #include "terrain/HeightsChange.h"
 #include "ui/StatusPanels.h"
@@ -28,7 +25,7 @@
 #include "ui/panels/GeneratorPanel.h"
 #include "ui/panels/GlobalPanel.h"
 #include "ui/panels/ObjectsPanel.h"
-#include "ui/plan/PictureBox.h"
+#include "ui/plan/PlanView.h"
 #include "ui/plan/ToolStrip.h"
 #include "ui/plan/ZViewPanel.h"
 
@@ -73,14 +70,13 @@ void frmTer::ConnectParts() {
     connect(Timer1_, &QTimer::timeout, this, &frmTer::Timer1_Timer);
     connect(OptXYView_, &QRadioButton::clicked, this, &frmTer::ShowPlanView);
     connect(optZView_, &QRadioButton::clicked, this, &frmTer::ShowZView);
-    connect(Picture1_, &PictureBox::MouseMove, this, &frmTer::Picture1_MouseMove);
-    connect(Picture1_, &PictureBox::DoubleClicked, this, &frmTer::Picture1_DblClick);
+    connect(planView_, &PlanView::PanelText, sBar_, &StatusPanels::SetPanel);
     connect(PicZ_, &ZViewPanel::Reopen, this, &frmTer::ShowZView);
     auto* redraw = new QShortcut(QKeySequence(Qt::Key_F5), this);
-    connect(redraw, &QShortcut::activated, this, &frmTer::Picture1_DblClick);
+    connect(redraw, &QShortcut::activated, planView_, &PlanView::Redraw);
     connect(SSTab1_, &QTabWidget::currentChanged, this, [this] { ShowSwatch(); });
     connect(PicZ_, &ZViewPanel::Leave, this, &frmTer::ShowPlanView);
-    connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, this, &frmTer::Picture1_MouseMove);
+    connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, planView_, &PlanView::ShowPoint);
 }
 
 bool frmTer::Form_Load() {
@@ -100,7 +96,7 @@ bool frmTer::Form_Load() {
         return false;
     }
     generatorPanel_->LoadPerlinList();
-    Picture1_->SetBackColor(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
+    planView_->SetBackColor(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
     ShowSwatch();
     if (!session_.StartFile.empty())
         OpenFile(session_.StartFile);
@@ -117,21 +113,14 @@ void frmTer::ShowPlanView() {
 }
 
 void frmTer::ResizePicture(double factor) {
-    const int size = session_.document.CurrentTerrain.Size();
-    session_.tools.ViewZoom = NextZoom(session_.tools.ViewZoom, factor, size, PictureLimit());
     ShowPlanView();
-    const int side = PictureSide(session_.tools.ViewZoom, size);
-    Picture1_->setFixedSize(side, side);
-    Picture1_->SetUnits(size);
-    globalPanel_->TickSize(size);
-    sBar_->SetPanel(1, ZoomText(session_.tools.ViewZoom, size));
+    planView_->Resize(factor, PictureLimit());
+    globalPanel_->TickSize(session_.document.CurrentTerrain.Size());
     ActualScreen();
 }
 
 void frmTer::RebuildPicture() {
-    BuildHeightPicture(Picture1_->Raster(), session_.document.CurrentTerrain,
-                       session_.settings.PaletteRow, host_);
-    Picture1_->update();
+    planView_->Rebuild();
 }
 
 void frmTer::ShowFixHeight() {
@@ -180,7 +169,7 @@ void frmTer::EnableInput(bool enable) {
     // Whoever works by keyboard goes on where the command was started.
     if (!enable)
         focusBefore_ = focusWidget();
-    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, Picture1_, PicZ_,
+    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, planView_, PicZ_,
                                                          OptXYView_, optZView_})
         part->setEnabled(enable);
     if (enable && focusBefore_ != nullptr && focusWidget() == nullptr)
@@ -257,26 +246,7 @@ void frmTer::optZView_Click() {
     PicZ_->SetAltitudes(globalPanel_->LowestText(), globalPanel_->HighestText());
     optZView_->setChecked(true);
     views_->setCurrentIndex(1);
-    PicZ_->Open(Picture1_->Raster());
-}
-
-void frmTer::Picture1_MouseMove(double x, double y) {
-    if (session_.TerrainBusy)
-        return;
-    if (const auto texts = PointTexts(session_.document.CurrentTerrain, x, y))
-        for (std::size_t i = 0; i < texts->size(); ++i)
-            sBar_->SetPanel(static_cast<int>(i) + 2, (*texts)[i]);
-}
-
-void frmTer::Picture1_DblClick() {
-    RunCommand(this, host_, QStringLiteral("Picture redraw"), [this] {
-        host_.Busy(true);
-        host_.Status("Picture redraw...");
-        host_.Yield();
-        RebuildPicture();
-        host_.Status("Ready");
-        host_.Busy(false);
-    });
+    PicZ_->Open(planView_->Raster());
 }
 
 void frmTer::resizeEvent(QResizeEvent* event) {

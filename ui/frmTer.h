@@ -23,7 +23,7 @@ class EffectsPanel;
 class GeneratorPanel;
 class GlobalPanel;
 class ObjectsPanel;
-class PictureBox;
+class PlanView;
 class StatusPanels;
 class ToolStrip;
 class ZViewPanel;
@@ -82,8 +82,6 @@ class frmTer : public QMainWindow, public Workplace {
     void ShowZView();
     void ShowSwatch();
     void optZView_Click();
-    void Picture1_MouseMove(double x, double y);
-    void Picture1_DblClick();
     void UpdateTitle();
     double PictureLimit() const;
 
@@ -95,7 +93,7 @@ class frmTer : public QMainWindow, public Workplace {
     ToolStrip* toolStrip_;
     QWidget* pictures_;
     QStackedLayout* views_;
-    PictureBox* Picture1_;
+    PlanView* planView_;
     ZViewPanel* PicZ_;
     QRadioButton* OptXYView_;
     QRadioButton* optZView_;

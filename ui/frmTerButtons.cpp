@@ -6,7 +6,7 @@
 #include "ui/dialogs/frmAbout.h"
 #include "ui/frmTer.h"
 #include "ui/panels/GlobalPanel.h"
-#include "ui/plan/PictureBox.h"
+#include "ui/plan/PlanView.h"
 
 // What the buttons of the tool bar do.
 namespace quillbrand {
@@ -46,7 +46,7 @@ std::vector<ToolButton> frmTer::Buttons() {
             "SpeichernAls", "Save as...", "save-as", "Ctrl+Shift+S",
             [this] { return document_.SpeichernAls(); }, true),
         button("Print", "Print Terrain and Settings", "print", "Ctrl+P",
-               Always([this] { dlgPrint(*this, Picture1_->grab().toImage()).exec(); }), true),
+               Always([this] { dlgPrint(*this, planView_->PrintPicture()).exec(); }), true),
         button("Restore", "Restore Terrain", "restore", "Ctrl+Shift+B",
                [this] { return document_.Restore(); }),
         button("Backup", "Backup Terrain", "backup", "Ctrl+B",

@@ -127,8 +127,8 @@ void dlgPrint::ShowPage() {
     edge.setPen(QPen(QColor(0x90, 0x90, 0x90), 2 * scale));
     edge.drawRect(page.rect());
     edge.end();
-    PicPrint_->Raster().Image() = page;
-    PicPrint_->update();
+    PicPrint_->EditRaster().Image() = page;
+    PicPrint_->RasterChanged();
 }
 
 void dlgPrint::ShowPrinterName() {
