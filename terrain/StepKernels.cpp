@@ -1,7 +1,5 @@
 #include "terrain/StepKernels.h"
 
-#include <algorithm>
-
 #include "base/VectorClones.h"
 
 namespace quillbrand {
@@ -56,17 +54,12 @@ QB_VECTOR_CLONES std::uint32_t FoldDifferences(const CellPair& cells, std::uint3
     return all;
 }
 
-QB_VECTOR_CLONES void UnfoldDifferences(const std::uint32_t* codes, std::ptrdiff_t width,
-                                        bool subtract, std::int32_t* cells, std::ptrdiff_t stride,
-                                        std::ptrdiff_t count, std::ptrdiff_t rows,
-                                        std::uint32_t* sums) {
+QB_VECTOR_CLONES void UnfoldRow(const std::uint32_t* codes, std::size_t count, bool subtract,
+                                std::uint32_t* sums, std::int32_t* cells) {
     const std::uint32_t sign = subtract ? ~0u : 0u;
-    std::fill_n(sums, count, 0);
-    for (std::ptrdiff_t y = 0; y < rows; ++y, codes += width, cells += stride) {
-        for (std::ptrdiff_t x = 0; x < count; ++x) {
-            sums[x] += (Unfolded(codes[x]) ^ sign) - sign;
-            cells[x] = static_cast<std::int32_t>(static_cast<std::uint32_t>(cells[x]) + sums[x]);
-        }
+    for (std::size_t x = 0; x < count; ++x) {
+        sums[x] += (Unfolded(codes[x]) ^ sign) - sign;
+        cells[x] = static_cast<std::int32_t>(static_cast<std::uint32_t>(cells[x]) + sums[x]);
     }
 }
 

@@ -27,11 +27,10 @@ struct CellPair {
 /// Returns all codes or-ed together.
 std::uint32_t FoldDifferences(const CellPair& cells, std::uint32_t* codes);
 
-/// Adds what FoldDifferences took, or subtracts it, to the first `count` columns of the first
-/// `rows` rows of a rectangle whose codes are `width` wide. `sums` is room for `count` numbers.
-void UnfoldDifferences(const std::uint32_t* codes, std::ptrdiff_t width, bool subtract,
-                       std::int32_t* cells, std::ptrdiff_t stride, std::ptrdiff_t count,
-                       std::ptrdiff_t rows, std::uint32_t* sums);
+/// Adds what FoldDifferences took, or subtracts it, to a row of `count` cells whose codes these
+/// are. `sums` are the differences of the row above, 0 for the first one, and become this row's.
+void UnfoldRow(const std::uint32_t* codes, std::size_t count, bool subtract, std::uint32_t* sums,
+               std::int32_t* cells);
 
 /// Byte `shift` / 8 of every code into `plane`, and back: or-ed into the codes.
 void SplitPlane(const std::uint32_t* codes, std::size_t count, int shift, std::uint8_t* plane);
