@@ -1,5 +1,6 @@
 #include "terrain/clsTerrain.h"
 
+#include <cassert>
 #include <cmath>
 #include <cstring>
 #include <string>
@@ -60,6 +61,13 @@ void clsTerrain::Restore(const TerHeader& header, std::span<const std::byte> cel
     Size(header.Size);
     assert(cells.size() == sizeof(Height) * cells_.size());
     std::memcpy(cells_.data(), cells.data(), sizeof(Height) * cells_.size());
+}
+
+void clsTerrain::Values(const TerrainValues& values) {
+    assert(values.header.Size >= 0 && values.header.Size + 3 <= side_);
+    header_ = values.header;
+    extremes_ = values.extremes;
+    fixHeight_ = values.FixHeight;
 }
 
 int clsTerrain::MaxTU() const {

@@ -18,6 +18,13 @@ namespace quillbrand {
 /// A raw height. -32768..32767 spans the height window; work in hand may leave that range.
 using Height = std::int32_t;
 
+/// What a terrain holds beside its cells.
+struct TerrainValues {
+    TerHeader header;
+    Extremes extremes;  ///< the running ones
+    bool FixHeight = false;
+};
+
 /// A square grid of raw heights with the header values of its file, and the only code that touches
 /// that memory. Grid indices run from 0 to Size() + 2 in both directions: 0..Size() is the terrain,
 /// the two further rows and columns are a margin that files do not store. x runs fastest in memory,
@@ -147,6 +154,10 @@ class clsTerrain {
     /// the order of the memory. The running extremes are as after Init. Fault as in Init. Requires:
     /// as many bytes as the size asks for.
     void Restore(const TerHeader& header, std::span<const std::byte> cells);
+
+    /// Everything beside the cells. Requires, in what is written: a size that the grid holds.
+    TerrainValues Values() const { return {header_, extremes_, fixHeight_}; }
+    void Values(const TerrainValues& values);
 
     /// Every cell, margin included; and the terrain alone.
     GridRect Cells() const { return {0, 0, header_.Size + 2, header_.Size + 2}; }

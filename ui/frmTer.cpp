@@ -36,6 +36,8 @@ namespace {
 /// Room around the picture.
 constexpr int pictureMargin = 20;
 
+constexpr int messageMs = 10'000;
+
 QColor ColorOf(Colour colour) {
     return {colour & 255, (colour >> 8) & 255, (colour >> 16) & 255};
 }
@@ -80,6 +82,8 @@ void frmTer::ConnectParts() {
 }
 
 bool frmTer::Form_Load() {
+    session_.document.history.Mode(HistoryMode::Steps);
+    session_.document.history.Megabytes(session_.settings.historyMegabytes);
     session_.document.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
     if (session_.settings.BackColor)
@@ -161,6 +165,9 @@ void frmTer::ShowHistory() {
     };
     show(QStringLiteral("Undo"), history.CanUndo(), history.NameOfUndo());
     show(QStringLiteral("Redo"), history.CanRedo(), history.NameOfRedo());
+    if (history.LostHistory())
+        sBar_->showMessage(QStringLiteral("Not enough memory: nothing before can be undone"),
+                           messageMs);
 }
 
 void frmTer::EnableInput(bool enable) {

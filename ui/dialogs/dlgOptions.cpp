@@ -221,6 +221,7 @@ void dlgOptions::OKButton_Click() {
     const QColor window = workplace_.Window()->palette().color(QPalette::Window);
     settings.BackColor = ColourOf(window.red(), window.green(), window.blue());
     SaveOptions(workplace_.TheSession().settings, settings);
+    workplace_.TheSession().document.history.Megabytes(settings.historyMegabytes);
     accept();
 }
 
