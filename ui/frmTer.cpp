@@ -62,7 +62,7 @@ frmTer::frmTer(Session& session, WindowHost& host, QWidget* parent)
     ConnectParts();
     host_.Attach(
         this, [this](const std::string& text) { InfoText_->setText(QString::fromStdString(text)); },
-        [this] { ActualScreen(); }, [this] { KeepInputOut(); });
+        [this] { ActualScreen(); }, [this](bool take) { EnableInput(take); });
     UpdateTitle();
 }
 
@@ -183,11 +183,6 @@ void frmTer::EnableInput(bool enable) {
         focusBefore_->setFocus();
     enable ? unsetCursor() : setCursor(Qt::WaitCursor);
     inputEnabled_ = enable;
-}
-
-/// At once, not at the next heartbeat: events may come through before it.
-void frmTer::KeepInputOut() {
-    EnableInput(false);
 }
 
 void frmTer::Timer1_Timer() {
