@@ -10,7 +10,6 @@
 #include "shell/EffectCommands.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/LabelledSlider.h"
-#include "ui/controls/ShownNumber.h"
 #include "ui/dialogs/Messages.h"
 #include "ui/dialogs/dlgFltErosion.h"
 #include "ui/dialogs/frmElevator.h"
@@ -201,9 +200,9 @@ void EffectsPanel::sldZMax_Change() {
 void EffectsPanel::Refresh() {
     const clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
     const auto metres = [&](const QSlider* limit) {
-        return ShownNumber([&] {
+        return QString::fromStdString(ShownText([&] {
             return PlainText(terrain.GetV2Meter(static_cast<float>(limit->value() - sliderZero)));
-        });
+        }));
     };
     txtZMin_->setText(metres(sldZMin_));
     txtZmax_->setText(metres(sldZMax_));

@@ -13,7 +13,6 @@
 #include "shell/LandscapeArea.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/NumberField.h"
-#include "ui/controls/ShownNumber.h"
 #include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
@@ -48,7 +47,7 @@ Field* MakeField(const char* name, const char* text, const char* toolTip) {
 }
 
 QString Shown(double number, const char* pattern) {
-    return ShownNumber([&] { return Format(number, pattern); });
+    return QString::fromStdString(ShownText([&] { return Format(number, pattern); }));
 }
 
 /// A field that was entered by Tab stays selected, for the next key to replace what it holds.
