@@ -52,8 +52,9 @@ Bytes JpegWithThumbnail(const Picture& picture) {
 }
 
 /// A GIF file of grey points, v = 3x + 5y, with a note in front of them. Each code is a byte: the
-/// table of codes is cleared before it grows beyond that.
-Bytes Gif(int width, int height) {
+/// table of codes is cleared before it grows beyond that. The colours stand in front of all, or of
+/// the image.
+Bytes Gif(int width, int height, bool hasOwnColours) {
     std::string data;
     for (int i = 0; i < width * height; ++i) {
         if (i % 100 == 0)
@@ -62,10 +63,13 @@ Bytes Gif(int width, int height) {
     }
     data += '\x81';
     const std::string side = {static_cast<char>(width), 0, static_cast<char>(height), 0};
-    std::string file = "GIF89a" + side + std::string("\xf6\0\0", 3);
+    std::string colours;
     for (int i = 0; i < 128; ++i)
-        file += std::string(3, static_cast<char>(i));
-    file += std::string("!\xfe\x05;;;;;\0,\0\0\0\0", 14) + side + std::string("\0\7", 2);
+        colours += std::string(3, static_cast<char>(i));
+    std::string file = "GIF89a" + side + std::string(hasOwnColours ? "\0\0\0" : "\xf6\0\0", 3) +
+                       (hasOwnColours ? "" : colours) +
+                       std::string("!\xfe\x05;;;;;\0,\0\0\0\0", 14) + side +
+                       (hasOwnColours ? '\x86' + colours : std::string(1, '\0')) + '\7';
     for (std::size_t i = 0; i < data.size(); i += 200) {
         const std::string block = data.substr(i, 200);
         file += static_cast<char>(block.size()) + block;
@@ -80,8 +84,10 @@ std::map<std::string, Bytes> Files() {
     return {{"png", Encoded(image, "png")},
             {"jpeg", Encoded(image, "jpg")},
             {"jpeg with a thumbnail", JpegWithThumbnail(picture)},
-            {"gif", Gif(13, 9)},
+            {"gif", Gif(13, 9, false)},
+            {"gif with colours of its image", Gif(13, 9, true)},
             {"bmp of 24 bits", Encoded(image, "bmp")},
+            {"bmp that tells no start", SetByte(Encoded(image, "bmp"), 10, 0)},
             {"bmp of 8 bits", Encoded(image.convertToFormat(QImage::Format_Indexed8), "bmp")},
             {"bmp of 1 bit", Encoded(image.convertToFormat(QImage::Format_Mono), "bmp")},
             {"icon", Encoded(image, "ico")}};
@@ -112,9 +118,10 @@ TEST(Picture, ReadsEveryFormat) {
     for (const auto& [name, file] : Files()) {
         const Picture picture = Picture::Decode(file, name);
         ASSERT_EQ(picture.Image().size(), image.size()) << name;
-        if (name == "gif") {
+        if (name.starts_with("gif")) {
             EXPECT_EQ(picture.Point(12, 8), 76 * 0x10101);
-        } else if (name == "png" || name == "icon" || name == "bmp of 24 bits") {
+        } else if (name == "png" || name == "icon" || name == "bmp of 24 bits" ||
+                   name == "bmp that tells no start") {
             EXPECT_EQ(picture.Image(), image) << name;
         } else if (name.starts_with("jpeg")) {
             EXPECT_NEAR(picture.Point(12, 8) >> 16, 188, 12) << name;
