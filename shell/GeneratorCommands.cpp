@@ -30,7 +30,7 @@ void ProduceTerrain(Document& document, Tools& tools, int resizeMode, int size,
     ProduceTerrain(document.CurrentTerrain, size, settings, ContextOf(tools, resizeMode), host);
     // Only now: the run itself used the mode that stood before.
     if (settings.clearTerrain || document.TerrainEmpty)
-        tools.ModifyMode = Add;
+        tools.ModifyMode = ModifyModes::Add;
     document.TerrainEmpty = false;
     change.Commit();
     host.Busy(false);

@@ -1,6 +1,7 @@
-#include "generator/DoubleGrid.h"
+#include "terrain/DoubleGrid.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <vector>
 
@@ -186,6 +187,7 @@ void FillResult(const SquareArray& grid, int n, int mode, double roughness, Squa
 }  // namespace
 
 void DoubleGrid(SquareArray& grid, int& n, int mode, int roughness, Host& host) {
+    assert(n >= 0 && grid.Upper() > n);
     host.Status("Resize Terrain...");
     host.Busy(true);
     host.Chance().ReseedFromClock();
