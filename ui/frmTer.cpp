@@ -43,10 +43,6 @@ namespace {
 /// Room around the picture.
 constexpr int pictureMargin = 20;
 
-QColor ColorOf(Colour colour) {
-    return {colour & 255, (colour >> 8) & 255, (colour >> 16) & 255};
-}
-
 /// The one local TER file of a drag, or nothing.
 std::optional<std::filesystem::path> DraggedTerrain(const QMimeData* data) {
     if (data == nullptr || data->urls().size() != 1 || !data->urls().front().isLocalFile())
@@ -95,7 +91,7 @@ bool frmTer::Form_Load() {
     session_.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
     if (session_.BackColor)
-        setPalette(WindowColours(ColorOf(*session_.BackColor)));
+        setPalette(WindowColours(ToQColor(*session_.BackColor)));
     loaded_ = true;
     ResizePicture();
     session_.TerrainEmpty = true;
@@ -108,7 +104,7 @@ bool frmTer::Form_Load() {
         return false;
     }
     generatorPanel_->LoadPerlinList();
-    Picture1_->SetBackColor(ColorOf(PaletteTable(128, session_.PaletteRow)));
+    Picture1_->SetBackColor(ToQColor(PaletteTable(128, session_.PaletteRow)));
     ShowSwatch();
     if (!session_.StartFile.empty())
         OpenFile(session_.StartFile);
@@ -275,7 +271,7 @@ void frmTer::ShowZView() {
 }
 
 void frmTer::ShowSwatch() {
-    editPanel_->SetSwatch(ColorOf(PaletteTable(128, session_.PaletteRow)));
+    editPanel_->SetSwatch(ToQColor(PaletteTable(128, session_.PaletteRow)));
 }
 
 void frmTer::optZView_Click() {
