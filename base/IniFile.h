@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <memory>
 #include <span>
 #include <string>
 
@@ -14,10 +13,7 @@ namespace quillbrand {
 class IniFile {
   public:
     /// An empty file.
-    IniFile();
-    ~IniFile();
-    IniFile(IniFile&&) noexcept;
-    IniFile& operator=(IniFile&&) noexcept;
+    IniFile() = default;
 
     /// What `bytes` hold; lines that make no sense are passed over. Never fails.
     static IniFile Parse(std::span<const std::byte> bytes);
@@ -42,8 +38,9 @@ class IniFile {
     void Write(const std::filesystem::path& path) const;
 
   private:
-    struct Content;
-    std::unique_ptr<Content> content_;
+    std::string text_;      ///< byte by byte
+    std::string tail_;      ///< what stands behind the first NUL, which nobody reads
+    std::string tooLarge_;  ///< the file of which only the beginning was read, or nothing
 };
 
 }  // namespace quillbrand

@@ -62,8 +62,7 @@ const Strip& PaletteStrip(int row) {
 }
 
 Colour PaletteTable(int index, int row) {
-    const QRgb colour = PaletteStrip(row).at(static_cast<std::size_t>(index));
-    return ColourOf(qRed(colour), qGreen(colour), qBlue(colour));
+    return ColourOf(PaletteStrip(row).at(static_cast<std::size_t>(index)));
 }
 
 }  // namespace quillbrand

@@ -40,10 +40,6 @@ namespace {
 /// Room around the picture.
 constexpr int pictureMargin = 20;
 
-QColor ColorOf(Colour colour) {
-    return {colour & 255, (colour >> 8) & 255, (colour >> 16) & 255};
-}
-
 /// The one local TER file of a drag, or nothing.
 std::optional<std::filesystem::path> DraggedTerrain(const QMimeData* data) {
     if (data == nullptr || data->urls().size() != 1 || !data->urls().front().isLocalFile())
@@ -91,7 +87,7 @@ bool frmTer::Form_Load() {
     session_.document.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
     if (session_.settings.BackColor)
-        setPalette(WindowColours(ColorOf(*session_.settings.BackColor)));
+        setPalette(WindowColours(ToQColor(*session_.settings.BackColor)));
     loaded_ = true;
     ResizePicture();
     session_.document.TerrainEmpty = true;
@@ -104,7 +100,7 @@ bool frmTer::Form_Load() {
         return false;
     }
     generatorPanel_->LoadPerlinList();
-    planView_->SetBackColor(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
+    planView_->SetBackColor(ToQColor(PaletteTable(128, session_.settings.PaletteRow)));
     ShowSwatch();
     if (!session_.StartFile.empty())
         OpenFile(session_.StartFile);
@@ -266,7 +262,7 @@ void frmTer::ShowZView() {
 }
 
 void frmTer::ShowSwatch() {
-    editPanel_->SetSwatch(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
+    editPanel_->SetSwatch(ToQColor(PaletteTable(128, session_.settings.PaletteRow)));
 }
 
 void frmTer::optZView_Click() {

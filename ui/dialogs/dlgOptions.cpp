@@ -200,8 +200,7 @@ void dlgOptions::OKButton_Click() {
     if (Option2_->checkedId() > 0)
         settings.ResizeMode = Option2_->checkedId();
     settings.PaletteRow = List1_->currentRow();
-    const QColor window = workplace_.Window()->palette().color(QPalette::Window);
-    settings.BackColor = ColourOf(window.red(), window.green(), window.blue());
+    settings.BackColor = ColourOf(workplace_.Window()->palette().color(QPalette::Window));
     SaveOptions(workplace_.TheSession().settings, settings);
     accept();
 }
