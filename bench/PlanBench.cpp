@@ -42,7 +42,7 @@ class ShownPlan {
   public:
     static constexpr double limit = 716;
 
-    explicit ShownPlan(int points) : plan(host_, limit) {
+    explicit ShownPlan(int points) : plan(limit) {
         plan.Terrain() = RollingTerrain(32767);
         if (points != benchPoints)
             plan.Terrain().Init(points);
@@ -62,7 +62,6 @@ class ShownPlan {
     static void Paint() { QApplication::sendPostedEvents(); }
 
   private:
-    SilentHost host_;
     int turn_ = 0;
 
   public:

@@ -26,6 +26,7 @@ OptionsSettings LoadOptions(const Settings& stored) {
             .ResizeMode = stored.ResizeMode,
             .PaletteRow = stored.PaletteRow,
             .BackColor = stored.BackColor,
+            .historyMegabytes = stored.historyMegabytes,
             .terragenFolder = file.Get("terragen", "directory"),
             .objectFolder = file.Get("objects", "directory"),
             .terrainFolder = file.Get("terrain", "directory")};
@@ -38,7 +39,9 @@ void SaveOptions(Settings& stored, const OptionsSettings& settings) {
     file.Set("Start", "color", Str(settings.PaletteRow));
     if (settings.BackColor)
         file.Set("Start", "BackColor", Str(*settings.BackColor));
+    file.Set("History", "Megabytes", Str(settings.historyMegabytes));
     file.Write(stored.IniPath);
+    stored.historyMegabytes = settings.historyMegabytes;
     stored.ResizeMode = settings.ResizeMode;
     stored.PaletteRow = settings.PaletteRow;
     if (settings.BackColor)

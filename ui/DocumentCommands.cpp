@@ -144,6 +144,29 @@ bool DocumentCommands::Restore() {
     return true;
 }
 
+void DocumentCommands::Undo() {
+    Document& document = workplace_.TheSession().document;
+    const int size = document.CurrentTerrain.Size();
+    document.Undo();
+    ShowStep(size);
+}
+
+void DocumentCommands::Redo() {
+    Document& document = workplace_.TheSession().document;
+    const int size = document.CurrentTerrain.Size();
+    document.Redo();
+    ShowStep(size);
+}
+
+/// Zoom and view stay, but for what another size of the grid asks for.
+void DocumentCommands::ShowStep(int sizeBefore) {
+    if (workplace_.TheSession().document.CurrentTerrain.Size() != sizeBefore)
+        workplace_.ResizePicture();
+    workplace_.ShowFixHeight();
+    workplace_.RebuildPicture();
+    workplace_.TheHost().ActualScreen();
+}
+
 bool DocumentCommands::MayExit() {
     const Session& session = workplace_.TheSession();
     if (session.document.TerrainEmpty || session.document.TerrainSaved)

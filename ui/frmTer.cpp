@@ -13,17 +13,13 @@
 #include "base/NumberText.h"
 #include "base/Stdio.h"
 #include "editor/Palette.h"
-#include "shell/RendererLink.h"
 #include "shell/TerrainCommands.h"
+#include "terrain/HeightsChange.h"
 #include "ui/StatusPanels.h"
 #include "ui/Theme.h"
 #include "ui/Toolbar1.h"
 #include "ui/controls/Controls.h"
 #include "ui/dialogs/Messages.h"
-#include "ui/dialogs/dlgOptions.h"
-#include "ui/dialogs/dlgPrint.h"
-#include "ui/dialogs/dlgSavePerlinsetNew.h"
-#include "ui/dialogs/frmAbout.h"
 #include "ui/panels/EditPanel.h"
 #include "ui/panels/EffectsPanel.h"
 #include "ui/panels/GeneratorPanel.h"
@@ -68,7 +64,6 @@ frmTer::~frmTer() = default;
 
 void frmTer::ConnectParts() {
     connect(Timer1_, &QTimer::timeout, this, &frmTer::Timer1_Timer);
-    connect(toolbar_, &Toolbar1::ButtonClick, this, &frmTer::Toolbar1_ButtonClick);
     connect(OptXYView_, &QRadioButton::clicked, this, &frmTer::ShowPlanView);
     connect(optZView_, &QRadioButton::clicked, this, &frmTer::ShowZView);
     connect(planView_, &PlanView::PanelText, sBar_, &StatusPanels::SetPanel);
@@ -76,9 +71,6 @@ void frmTer::ConnectParts() {
     auto* redraw = new QShortcut(QKeySequence(Qt::Key_F5), this);
     connect(redraw, &QShortcut::activated, planView_, &PlanView::Redraw);
     connect(SSTab1_, &QTabWidget::currentChanged, this, [this] { ShowSwatch(); });
-    openDropped_ = new QTimer(this);
-    openDropped_->setSingleShot(true);
-    connect(openDropped_, &QTimer::timeout, this, [this] { OpenFile(dropped_); });
     connect(PicZ_, &ZViewPanel::Leave, this, &frmTer::ShowPlanView);
     connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, planView_, &PlanView::ShowPoint);
 }
@@ -127,12 +119,8 @@ void frmTer::RebuildPicture() {
     planView_->Rebuild();
 }
 
-std::optional<int> frmTer::ChosenSize() {
-    return globalPanel_->ChosenSize();
-}
-
-std::string frmTer::SeedText() {
-    return generatorPanel_->SeedText();
+void frmTer::ShowFixHeight() {
+    globalPanel_->ShowFixHeight();
 }
 
 void frmTer::UpdateTitle() {
@@ -155,8 +143,20 @@ void frmTer::ActualScreen() {
     for (const char* key : {"Speichern", "SpeichernAls", "Print", "Backup"})
         toolbar_->EnableButton(QString::fromUtf8(key), hasTerrain);
     toolbar_->EnableButton(QStringLiteral("Restore"), session_.BackupExists);
+    ShowHistory();
     effectsPanel_->Refresh();
     generatorPanel_->Refresh();
+}
+
+void frmTer::ShowHistory() {
+    const History& history = session_.document.history;
+    const auto show = [this](const QString& key, bool can, const std::string& name) {
+        toolbar_->EnableButton(key, can);
+        toolbar_->Button(key)->setToolTip(
+            can ? key + QStringLiteral(": ") + QString::fromStdString(name) : key);
+    };
+    show(QStringLiteral("Undo"), history.CanUndo(), history.NameOfUndo());
+    show(QStringLiteral("Redo"), history.CanRedo(), history.NameOfRedo());
 }
 
 void frmTer::EnableInput(bool enable) {
@@ -181,7 +181,9 @@ void frmTer::KeepInputOut() {
 
 void frmTer::Timer1_Timer() {
     const bool busy = session_.TerrainBusy;
-    EnableInput(!busy);
+    // A command whose flag is clear has not ended yet: whatever it kept out stays out.
+    if (busy || !host_.CommandRuns())
+        EnableInput(!busy);
     if (busy) {
         PB_->setValue(STDIO::ClampValue(0, 100, session_.document.CurrentTerrain.pProgress));
     } else {
@@ -190,52 +192,6 @@ void frmTer::Timer1_Timer() {
     }
     if (isMinimized())
         UpdateTitle();
-}
-
-void frmTer::Toolbar1_ButtonClick(const QString& key) {
-    session_.document.CurrentTerrain.CRAD(static_cast<float>(globalPanel_->PlanetRadius()));
-    session_.document.CurrentTerrain.CRVM(globalPanel_->Curved() ? 1 : 0);
-    ShowPlanView();
-    bool commonEnd = true;
-    RunCommand(this, host_, toolbar_->Button(key)->text(), [&] { commonEnd = RunButton(key); });
-    if (commonEnd)
-        CommonEnd();
-}
-
-/// False for a command that ends without the steps that all others end with.
-bool frmTer::RunButton(const QString& key) {
-    if (key == QStringLiteral("SavePerlin"))
-        dlgSavePerlinsetNew(*this).exec();
-    else if (key == QStringLiteral("Terragen"))
-        StartTerragen(session_.document, session_.settings, host_,
-                      [this] { document_.FileSave(1); });
-    else if (key == QStringLiteral("Neu"))
-        document_.Neu();
-    else if (key == QStringLiteral("Öffnen"))
-        return document_.Oeffnen();
-    else if (key == QStringLiteral("Speichern"))
-        return document_.Speichern();
-    else if (key == QStringLiteral("SpeichernAls"))
-        return document_.SpeichernAls();
-    else if (key == QStringLiteral("Löschen"))
-        document_.Loeschen();
-    else if (key == QStringLiteral("Backup"))
-        document_.Backup();
-    else if (key == QStringLiteral("Restore"))
-        return document_.Restore();
-    else if (key == QStringLiteral("Eigenschaften"))
-        dlgOptions(*this).exec();
-    else if (key == QStringLiteral("Hilfe"))
-        frmAbout(this).exec();
-    else if (key == QStringLiteral("Zoom in"))
-        ResizePicture(2);
-    else if (key == QStringLiteral("Zoom out"))
-        ResizePicture(0.5);
-    else if (key == QStringLiteral("Zoom100"))
-        ResizePicture(0);
-    else if (key == QStringLiteral("Print"))
-        dlgPrint(*this, planView_->PrintPicture()).exec();
-    return true;
 }
 
 void frmTer::CommonEnd() {
@@ -248,16 +204,24 @@ void frmTer::CommonEnd() {
 }
 
 void frmTer::OpenFile(const std::filesystem::path& path) {
-    RunCommand(this, host_, QStringLiteral("Open"), [&] { document_.Open(path); });
+    if (host_.CommandRuns())
+        return;
+    const CommandScope scope(host_);
+    RunPart(this, host_, QStringLiteral("Open"), [&] { document_.Open(path); });
     CommonEnd();
 }
 
+void frmTer::StepBack() {
+    RunCommand(this, host_, QStringLiteral("Undo"), [this] { document_.Undo(); });
+}
+
+void frmTer::StepForward() {
+    RunCommand(this, host_, QStringLiteral("Redo"), [this] { document_.Redo(); });
+}
+
 void frmTer::ShowZView() {
-    if (session_.TerrainBusy) {
-        ShowPlanView();
-        return;
-    }
-    if (!RunCommand(this, host_, QStringLiteral("Z-View"), [this] { optZView_Click(); }))
+    if (RunCommand(this, host_, QStringLiteral("Z-View"), [this] { optZView_Click(); }) !=
+        Ended::Well)
         ShowPlanView();
 }
 
@@ -271,7 +235,9 @@ void frmTer::optZView_Click() {
         ShowPlanView();
         return;
     }
+    HeightsChange change(session_.document, "Z-View");
     session_.document.CurrentTerrain.ScaleTerrain();
+    change.Commit();
     ActualScreen();
     PicZ_->SetAltitudes(globalPanel_->LowestText(), globalPanel_->HighestText());
     optZView_->setChecked(true);
@@ -287,13 +253,11 @@ void frmTer::resizeEvent(QResizeEvent* event) {
 }
 
 void frmTer::closeEvent(QCloseEvent* event) {
-    if (session_.TerrainBusy) {
-        event->ignore();
-        return;
-    }
     bool mayExit = false;
-    RunCommand(this, host_, QStringLiteral("EXIT"), [&] { mayExit = document_.MayExit(); });
-    session_.TerrainBusy = false;
+    RunCommand(this, host_, QStringLiteral("EXIT"), [&] {
+        mayExit = document_.MayExit();
+        session_.TerrainBusy = false;
+    });
     event->setAccepted(mayExit);
     if (mayExit)
         RemoveBackup(session_);
@@ -311,17 +275,16 @@ void frmTer::changeEvent(QEvent* event) {
 }
 
 void frmTer::dragEnterEvent(QDragEnterEvent* event) {
-    if (!session_.TerrainBusy && DraggedTerrain(event->mimeData()))
+    if (!host_.CommandRuns() && DraggedTerrain(event->mimeData()))
         event->acceptProposedAction();
 }
 
 void frmTer::dropEvent(QDropEvent* event) {
     const auto path = DraggedTerrain(event->mimeData());
-    if (!path || session_.TerrainBusy)
+    if (!path || host_.CommandRuns())
         return;
     // Not within the drop: its sender would wait for the answer to a question.
-    dropped_ = *path;
-    openDropped_->start(0);
+    host_.WhenIdle([this, path = *path] { OpenFile(path); });
 }
 
 }  // namespace quillbrand

@@ -5,7 +5,6 @@
 #include <QTimer>
 
 #include "ui/StatusPanels.h"
-#include "ui/Toolbar1.h"
 #include "ui/controls/Controls.h"
 #include "ui/frmTer.h"
 #include "ui/panels/EditPanel.h"
@@ -28,7 +27,7 @@ constexpr int rightColumnWidth = 372;
 }  // namespace
 
 void frmTer::BuildWindow() {
-    toolbar_ = new Toolbar1(this);
+    toolbar_ = new Toolbar1(Buttons(), this);
     addToolBar(Qt::TopToolBarArea, toolbar_);
     sBar_ = new StatusPanels(this);
     setStatusBar(sBar_);

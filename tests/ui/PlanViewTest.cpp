@@ -2,23 +2,13 @@
 
 #include <QTest>
 #include <algorithm>
-#include <functional>
 
 #include "editor/Palette.h"
-#include "tests/support/RecordingHost.h"
 #include "tests/ui/LonePlan.h"
 #include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 namespace {
-
-/// A host that does something whenever events would be let through.
-class YieldingHost : public RecordingHost {
-  public:
-    void Yield() override { onYield(); }
-
-    std::function<void()> onYield = [] {};
-};
 
 class PlanViews : public ::testing::Test {
   protected:
@@ -26,8 +16,8 @@ class PlanViews : public ::testing::Test {
 
     QRgb ColourAt(int x, int y) { return plan_.view.Raster().Row(y)[x]; }
 
-    YieldingHost host_;
-    LonePlan plan_{host_, 500};
+    LonePlan plan_{500};
+    LoneHost& host_ = plan_.host;
     PictureBox& box_ = plan_.view.Box();
 };
 
@@ -67,16 +57,17 @@ TEST_F(PlanViews, WipeMarksWhenTheyAreDoubleClickedButNotWithinACommand) {
         box_.RasterChanged(QRect(5, 3, 1, 1));
     };
     mark();
-    plan_.session.TerrainBusy = true;
-    QTest::mouseDClick(&box_, Qt::LeftButton);
-    EXPECT_EQ(ColourAt(5, 3), qRgb(1, 2, 3));
-    plan_.session.TerrainBusy = false;
+    {
+        const CommandScope scope(host_);
+        QTest::mouseDClick(&box_, Qt::LeftButton);
+        EXPECT_EQ(ColourAt(5, 3), qRgb(1, 2, 3));
+    }
     QTest::mouseDClick(&box_, Qt::RightButton);
     EXPECT_EQ(ColourAt(5, 3), qRgb(1, 2, 3));
     QTest::mouseDClick(&box_, Qt::LeftButton);
     EXPECT_EQ(ColourAt(5, 3), plain);
-    EXPECT_EQ(host_.statuses.front(), "copy Highmap ...");
-    EXPECT_FALSE(host_.isBusy);
+    EXPECT_EQ(host_.statuses.back(), "Ready");
+    EXPECT_FALSE(plan_.session.TerrainBusy);
 }
 
 TEST_F(PlanViews, PrintWhatStandsOnTheScreenWithoutOverlays) {

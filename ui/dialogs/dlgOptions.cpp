@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -96,7 +97,8 @@ QWidget* dlgOptions::BuildProgram() {
     auto* chkRegTERFile =
         MakeCheck("chkRegTERFile", "register TER-Files with Quillbrand",
                   "Each click makes the desktop open terrain files with this program");
-    grid->addWidget(chkRegTERFile, 2, 0, 1, 2);
+    grid->addWidget(BuildHistory(), 2, 0, 1, 2);
+    grid->addWidget(chkRegTERFile, 3, 0, 1, 2);
     connect(chkRegTERFile, &QCheckBox::clicked, this, &dlgOptions::chkRegTERFile_Click);
     return page;
 }
@@ -146,6 +148,21 @@ QWidget* dlgOptions::BuildWindowColour() {
     layout->addStretch();
     layout->addWidget(cmdSelectColor);
     connect(cmdSelectColor, &QPushButton::clicked, this, &dlgOptions::cmdSelectColor_Click);
+    return frame;
+}
+
+QWidget* dlgOptions::BuildHistory() {
+    auto* frame = MakeFrame("Undo");
+    spnHistory_ = Named(new QSpinBox, "spnHistory",
+                        "Steps that need more are forgotten, the oldest first; five stay always");
+    spnHistory_->setRange(0, Settings::mostHistoryMegabytes);
+    spnHistory_->setSingleStep(64);
+    spnHistory_->setSuffix(QStringLiteral(" MB"));
+    spnHistory_->setValue(settings_.historyMegabytes);
+    auto* layout = new QHBoxLayout(frame);
+    layout->addWidget(MakeLabel("Memory for steps that can be undone", spnHistory_));
+    layout->addStretch();
+    layout->addWidget(spnHistory_);
     return frame;
 }
 
@@ -200,6 +217,7 @@ void dlgOptions::OKButton_Click() {
     if (Option2_->checkedId() > 0)
         settings.ResizeMode = Option2_->checkedId();
     settings.PaletteRow = List1_->currentRow();
+    settings.historyMegabytes = spnHistory_->value();
     settings.BackColor = ColourOf(workplace_.Window()->palette().color(QPalette::Window));
     SaveOptions(workplace_.TheSession().settings, settings);
     accept();
@@ -227,9 +245,9 @@ void dlgOptions::cmdSelectColor_Click() {
 void dlgOptions::chkRegTERFile_Click() {
     std::string reason;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool registered =
-        RegExt::RegisterExtension(".ter", "TerrainFiles", "Quillbrand",
-                                  QCoreApplication::applicationFilePath().toStdString(), &reason);
+    const bool registered = RegExt::RegisterExtension(
+        ".ter", "TerrainFiles", "Quillbrand", QCoreApplication::applicationFilePath().toStdString(),
+        &reason, [this] { workplace_.TheHost().Yield(); });
     QApplication::restoreOverrideCursor();
     if (!registered)
         WarnUser(this, QString::fromStdString(reason), windowTitle());

@@ -175,7 +175,7 @@ void dlgPrint::Print() {
 }
 
 void dlgPrint::OKButton_Click() {
-    if (RunCommand(this, workplace_.TheHost(), windowTitle(), [this] { Print(); }))
+    if (RunPart(this, workplace_.TheHost(), windowTitle(), [this] { Print(); }))
         accept();
 }
 

@@ -35,7 +35,7 @@ dlgSavePerlinsetNew::dlgSavePerlinsetNew(Workplace& workplace)
 }
 
 void dlgSavePerlinsetNew::OKButton_Click() {
-    RunCommand(this, workplace_.TheHost(), windowTitle(), [this] { SavePerlinSet(); });
+    RunPart(this, workplace_.TheHost(), windowTitle(), [this] { SavePerlinSet(); });
 }
 
 void dlgSavePerlinsetNew::SavePerlinSet() {

@@ -111,8 +111,8 @@ QLayout* frmElevator::BuildSets() {
 void frmElevator::ConnectControls() {
     const auto onClick = [this](QPushButton* button, void (frmElevator::*handler)()) {
         connect(button, &QPushButton::clicked, this, [this, handler] {
-            RunCommand(this, workplace_.TheHost(), windowTitle(),
-                       [this, handler] { (this->*handler)(); });
+            RunPart(this, workplace_.TheHost(), windowTitle(),
+                    [this, handler] { (this->*handler)(); });
         });
     };
     onClick(cmdAddElevatorSet_, &frmElevator::cmdAddElevatorSet_Click);
@@ -183,8 +183,8 @@ void frmElevator::RedrawLine() {
 void frmElevator::List1_Click() {
     choiceTaken_ = true;
     const int index = List1_->currentRow();
-    const bool chosen = RunCommand(this, workplace_.TheHost(), windowTitle(),
-                                   [&] { QBTools2::ChooseElevatorSet(TheElevator(), index); });
+    const bool chosen = RunPart(this, workplace_.TheHost(), windowTitle(),
+                                [&] { QBTools2::ChooseElevatorSet(TheElevator(), index); });
     if (!chosen) {
         const QSignalBlocker quiet(List1_);
         List1_->setCurrentRow(TheElevator().ElevatorSetIndex);

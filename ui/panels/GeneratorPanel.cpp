@@ -77,7 +77,7 @@ QLayout* GeneratorPanel::BuildSeedRow() {
 QLayout* GeneratorPanel::BuildButtons() {
     cmdGenModify_ = MakeButton("cmdGenModify", "Modify Options",
                                "select modify options for overlay this terrain");
-    // The two tool tips stand the wrong way round; people know them so.
+    // The two tool tips stand the wrong way round, and stay so.
     save_ = MakeButton("cmdGeneratorSaveSetting", "save", "load generator settings");
     load_ = MakeButton("cmdGenLoadSetting", "load", "save generator settings ");
     cmdPreview_ =
@@ -110,13 +110,12 @@ void GeneratorPanel::ConnectControls() {
     onClick(cmdGenModify_, &GeneratorPanel::cmdGenModify_Click);
     onClick(save_, &GeneratorPanel::cmdGeneratorSaveSetting_Click);
     onClick(load_, &GeneratorPanel::cmdGenLoadSetting_Click);
+    connect(txtRandom_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        workplace_.TheSession().tools.seedText = text.toStdString();
+    });
     connect(txtRandom_, &QLineEdit::textEdited, this, &GeneratorPanel::txtRandom_Change);
     connect(chkClearTerrain_, &QCheckBox::toggled, this,
             [this](bool ticked) { cmdGenModify_->setEnabled(!ticked); });
-}
-
-std::string GeneratorPanel::SeedText() const {
-    return txtRandom_->text().toStdString();
 }
 
 void GeneratorPanel::LoadPerlinList() {
@@ -143,7 +142,7 @@ GeneratorSettings GeneratorPanel::Settings() const {
     settings.height = sldGenHeigth_->value();
     settings.structure = sldStructure_->value();
     settings.roughness = roughness_->value();
-    settings.seed = SeedText();
+    settings.seed = workplace_.TheSession().tools.seedText;
     settings.finerStructures = chkHighResolution_->isChecked();
     settings.clearTerrain = chkClearTerrain_->isChecked();
     return settings;
@@ -160,7 +159,7 @@ void GeneratorPanel::Show(const GeneratorSettings& settings) {
 
 void GeneratorPanel::cmdGenerator_Click() {
     // Read first: what the picture's resizing ticks must not undo the user's choice.
-    const std::optional<int> size = workplace_.ChosenSize();
+    const std::optional<int> size = workplace_.TheSession().tools.chosenSize;
     workplace_.ResizePicture();
     workplace_.ShowPlanView();
     if (!size)

@@ -6,6 +6,7 @@
 #include "editor/HeightPicture.h"
 #include "editor/PointTexts.h"
 #include "editor/View.h"
+#include "ui/dialogs/Messages.h"
 #include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
@@ -60,15 +61,15 @@ void PlanView::Rebuild() {
 }
 
 void PlanView::Redraw() {
-    if (workplace_.TheSession().TerrainBusy)
-        return;
-    Host& host = workplace_.TheHost();
-    host.Busy(true);
-    host.Status("Picture redraw...");
-    host.Yield();
-    Rebuild();
-    host.Status("Ready");
-    host.Busy(false);
+    WindowHost& host = workplace_.TheHost();
+    RunCommand(workplace_.Window(), host, QStringLiteral("Picture redraw"), [this, &host] {
+        host.Busy(true);
+        host.Status("Picture redraw...");
+        host.Yield();
+        Rebuild();
+        host.Status("Ready");
+        host.Busy(false);
+    });
 }
 
 void PlanView::ShowPoint(QPointF place) {

@@ -141,8 +141,8 @@ void ZViewPanel::SetAltitudes(const QString& low, const QString& high) {
 }
 
 void ZViewPanel::Move(int position, int axis) {
-    if (!RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Z-View"),
-                    [this, position, axis] { ZView(position, axis); }))
+    if (RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Z-View"),
+                   [this, position, axis] { ZView(position, axis); }) == Ended::WithFault)
         emit Leave();
 }
 
