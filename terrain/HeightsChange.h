@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <string>
 #include <utility>
 
@@ -7,23 +8,42 @@
 
 namespace quillbrand {
 
-/// stand-in until the history is merged
+/// The scope in which a command changes a document: heights, header, FixHeight, TerrainEmpty,
+/// CurrentFile.
+///
+///     HeightsChange change(document, "Smooth");
+///     ...
+///     change.Commit();
+///
+/// Left without Commit, by a fault, it puts everything back, TerrainSaved too; what the mode of the
+/// history says. Commit makes a step of the history, unless nothing differs or only the running
+/// extremes do. A scope within another one belongs to it: only the outermost one does anything.
 class HeightsChange {
   public:
-    HeightsChange(Document& document, std::string /*name*/)
-        : document_(document), copy_(document) {}
+    /// `name` is how the user knows the command. Throws Fault where there is no memory to put
+    /// something back; in mode Steps the change then goes on without, and LostHistory tells.
+    /// Requires: nothing has changed since the last scope but the running extremes and CurrentFile.
+    HeightsChange(Document& document, std::string name) : document_(document) {
+        document_.history.Open(document_, std::move(name));
+    }
     HeightsChange(const HeightsChange&) = delete;
     HeightsChange& operator=(const HeightsChange&) = delete;
     ~HeightsChange() {
-        if (!committed_)
-            std::swap(document_, copy_);
+        if (open_)
+            document_.history.Close(document_, false);
     }
-    void Commit() { committed_ = true; }
+
+    /// The command is done: its changes stay. Requires: no scope within this one is open, and
+    /// Commit was not called before.
+    void Commit() {
+        assert(open_);
+        open_ = false;
+        document_.history.Close(document_, true);
+    }
 
   private:
     Document& document_;
-    Document copy_;
-    bool committed_ = false;
+    bool open_ = true;
 };
 
 }  // namespace quillbrand

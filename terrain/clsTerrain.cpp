@@ -1,5 +1,6 @@
 #include "terrain/clsTerrain.h"
 
+#include <cassert>
 #include <cmath>
 #include <string>
 
@@ -58,6 +59,14 @@ void clsTerrain::SetHeader(const TerHeader& header) {
     Init(std::int64_t{header.Size} + 1);
     header_ = header;
     Size(header.Size);
+}
+
+void clsTerrain::Values(const TerrainValues& values) {
+    assert(values.header.Size >= 0 && values.header.Size + 3 <= side_);
+    header_ = values.header;
+    minZ_ = values.min;
+    maxZ_ = values.max;
+    fixHeight_ = values.FixHeight;
 }
 
 int clsTerrain::MaxTU() const {

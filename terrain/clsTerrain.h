@@ -14,6 +14,14 @@ namespace quillbrand {
 /// A raw height. -32768..32767 spans the height window; work in hand may leave that range.
 using Height = std::int32_t;
 
+/// What a terrain holds beside its cells.
+struct TerrainValues {
+    TerHeader header;
+    Height min = 0;  ///< the running extremes
+    Height max = 0;
+    bool FixHeight = false;
+};
+
 /// A square grid of raw heights with the header values of its file, and the only code that touches
 /// that memory. Grid indices run from 0 to Size() + 2 in both directions: 0..Size() is the terrain,
 /// the two further rows and columns are a margin that files do not store. x runs fastest in memory,
@@ -141,6 +149,10 @@ class clsTerrain {
 
     /// Takes over a record, its size included: a new grid of that size, all 0. Fault as in Init.
     void SetHeader(const TerHeader& header);
+
+    /// Everything beside the cells. Requires, in what is written: a size that the grid holds.
+    TerrainValues Values() const { return {header_, minZ_, maxZ_, fixHeight_}; }
+    void Values(const TerrainValues& values);
 
     /// Row y with its margin, Size() + 3 cells; 0 <= y <= Size() + 2.
     std::span<const Height> Row(int y) const {
