@@ -4,8 +4,6 @@
 #include <string>
 
 #include "base/NumberText.h"
-#include "base/Numbers.h"
-#include "base/Stdio.h"
 #include "terrain/HeightsChange.h"
 
 namespace quillbrand {
@@ -23,8 +21,7 @@ int NewSeed(RandomSource& chance) {
 }
 
 int SeedOf(const std::string& text) {
-    return static_cast<int>(
-        RoundHalfEven(STDIO::ClampValue(-2147483648.0, 2147483647.0, Val(text))));
+    return ClampedVal(text);
 }
 
 void ProduceTerrain(Document& document, Tools& tools, int resizeMode, int size,

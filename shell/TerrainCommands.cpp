@@ -23,7 +23,7 @@ void Save(Document& document, const std::filesystem::path& path, bool scale, Old
         ScaleTerrainStep(document.CurrentTerrain, host);
     SaveT(document.CurrentTerrain, path, host, tail);
     document.CurrentFile = path.string();
-    document.TerrainSaved = true;
+    document.MarkSaved();
     change.Commit();
     host.Busy(false);
 }

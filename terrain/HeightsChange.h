@@ -16,13 +16,13 @@ namespace quillbrand {
 ///     change.Commit();
 ///
 /// Left without Commit, by a fault, it puts everything back, TerrainSaved too; what the mode of the
-/// history says. Commit makes a step of the history, unless nothing differs or only the running
-/// extremes do. A scope within another one belongs to it: only the outermost one does anything.
+/// history says. Commit makes a step of the history, unless nothing differs, or only the running
+/// extremes or the file's name do. A scope within another one belongs to it: only the outermost one does anything.
 class HeightsChange {
   public:
     /// `name` is how the user knows the command. Throws Fault where there is no memory to put
     /// something back; in mode Steps the change then goes on without, and LostHistory tells.
-    /// Requires: nothing has changed since the last scope but the running extremes and CurrentFile.
+    /// Requires: no height has changed since the last scope.
     HeightsChange(Document& document, std::string name) : document_(document) {
         document_.history.Open(document_, std::move(name));
     }

@@ -5,7 +5,6 @@
 #include <new>
 #include <utility>
 
-#include "base/ByteBuffer.h"
 #include "base/Fault.h"
 #include "terrain/Document.h"
 
@@ -30,22 +29,12 @@ DocumentState StateOf(const Document& document, std::uint64_t number) {
     return {document.CurrentTerrain.Values(), document.TerrainEmpty, document.CurrentFile, number};
 }
 
-/// The bytes of the record, with the tags that saving sets.
-Bytes BytesOf(TerHeader header) {
-    header.FillTags();
-    Bytes bytes;
-    ByteWriter writer(bytes);
-    header.Append(writer);
-    return bytes;
-}
-
-/// A terrain with the values of a state and the cells that `terrain` has of it.
-std::unique_ptr<clsTerrain> Resized(const clsTerrain& terrain, const TerrainValues& values) {
+/// A grid of another size with the cells of `terrain` that fit, and 0 beyond them.
+std::unique_ptr<clsTerrain> Resized(const clsTerrain& terrain, int size) {
     auto resized = std::make_unique<clsTerrain>();
-    resized->SetHeader(values.header);
+    resized->Init(std::int64_t{size} + 1);
     resized->pProgress = terrain.pProgress;
-    const int side = values.header.Size + 3;
-    CopyCells(terrain, *resized, 0, 0, side, side);
+    CopyCells(terrain, *resized, 0, 0, size + 3, size + 3);
     return resized;
 }
 
@@ -57,20 +46,6 @@ bool SameCells(const clsTerrain& one, const clsTerrain& other) {
 }
 
 }  // namespace
-
-bool DocumentState::SameAs(const DocumentState& other) const {
-    return TerrainEmpty == other.TerrainEmpty && CurrentFile == other.CurrentFile &&
-           terrain.FixHeight == other.terrain.FixHeight &&
-           BytesOf(terrain.header) == BytesOf(other.terrain.header);
-}
-
-std::size_t HistoryStep::Bytes() const {
-    std::size_t bytes = sizeof *this + name.size() + before.CurrentFile.size() +
-                        after.CurrentFile.size() + blocks.size() * sizeof(PackedBlock);
-    for (const PackedBlock& block : blocks)
-        bytes += block.bytes.size();
-    return bytes;
-}
 
 void History::Mode(HistoryMode mode) {
     assert(depth_ == 0);
@@ -110,24 +85,23 @@ std::size_t History::Bytes() const {
 void History::Trim() noexcept {
     const std::size_t budget = static_cast<std::size_t>(megabytes_) << 20;
     for (std::size_t bytes = Bytes(); steps_.size() > leastSteps && bytes > budget;) {
-        // An undone step is of use only as long as all before it are there.
-        const bool oldest = done_ > 0;
-        bytes -= (oldest ? steps_.front() : steps_.back()).Bytes();
-        if (oldest)
+        if (done_ > 0) {
+            bytes -= steps_.front().Bytes();
             steps_.pop_front();
-        else
+            --done_;
+        } else {
+            // Where all are undone, the first is the one that all others build on.
+            bytes -= steps_.back().Bytes();
             steps_.pop_back();
-        done_ -= oldest;
+        }
     }
 }
 
 void History::Open(const Document& document, std::string name) {
     if (depth_ == 0 && mode_ != HistoryMode::Nothing) {
         lost_ = false;
-#ifdef QB_CHECK_SHADOW
-        assert(Agrees(document) && "the document was changed outside every HeightsChange");
-#endif
         const auto prepare = [&] {
+            assert(Agrees(document) && "the document was changed outside every HeightsChange");
             name_ = std::move(name);
             wasSaved_ = document.TerrainSaved;
             savedAtEnd_ = false;
@@ -185,11 +159,12 @@ void History::Keep(const Document& document) {
 }
 
 void History::UpdateShadow(const clsTerrain& terrain, const std::vector<PackedBlock>& blocks) {
-    if (shadow_ && shadow_->Size() != terrain.Size())
+    if (!shadow_ || shadow_->Size() != terrain.Size()) {
         shadow_.reset();
+        return;
+    }
     for (const PackedBlock& block : blocks)
-        if (shadow_)
-            CopyCells(terrain, *shadow_, block.x, block.y, block.width, block.height);
+        CopyCells(terrain, *shadow_, block.x, block.y, block.width, block.height);
 }
 
 /// The steps lead nowhere any more: the document has moved on without them.
@@ -201,11 +176,7 @@ void History::Lose() noexcept {
 }
 
 bool History::Agrees(const Document& document) const {
-    if (!shadow_)
-        return true;
-    DocumentState seen = StateOf(document, now_.number);
-    seen.CurrentFile = now_.CurrentFile;
-    return seen.SameAs(now_) && SameCells(document.CurrentTerrain, *shadow_);
+    return !shadow_ || SameCells(document.CurrentTerrain, *shadow_);
 }
 
 int History::Undo(Document& document, int steps) {
@@ -227,17 +198,20 @@ void History::Follow(Document& document, const HistoryStep& step, Way way) {
     const DocumentState& from = way == Way::Back ? step.after : step.before;
     const DocumentState& to = way == Way::Back ? step.before : step.after;
     clsTerrain& terrain = document.CurrentTerrain;
-    assert(terrain.Size() == from.terrain.header.Size);
+    const int sizeBefore = from.terrain.header.Size;
+    const int size = to.terrain.header.Size;
+    assert(terrain.Size() == sizeBefore);
     std::unique_ptr<clsTerrain> resized;
     std::string file;
     const auto prepare = [&] {
         file = from.CurrentFile == to.CurrentFile ? document.CurrentFile : to.CurrentFile;
-        packer_.Prepare(std::max(from.terrain.header.Size, to.terrain.header.Size) + 3);
-        if (terrain.Size() != to.terrain.header.Size)
-            resized = Resized(terrain, to.terrain);
+        packer_.Prepare(std::max(sizeBefore, size) + 3);
+        if (size != sizeBefore)
+            resized = Resized(terrain, size);
     };
     if (!FoundMemory(prepare))
-        throw Fault("there is not enough memory to undo or redo \"" + step.name + "\"");
+        throw Fault("there is not enough memory to " +
+                    std::string(way == Way::Back ? "undo" : "redo") + " \"" + step.name + "\"");
 
     // Nothing can fail from here on.
     if (resized)

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "terrain/HistoryStep.h"
 #include "terrain/StepPacking.h"
 #include "terrain/clsTerrain.h"
 
@@ -18,28 +19,6 @@ enum class HistoryMode {
     Nothing,   ///< neither undo nor putting back: for a program that ends at the first fault
     Rollback,  ///< what a fault interrupts is put back
     Steps,     ///< that, and every command is a step that can be undone
-};
-
-/// What travels with a step beside the heights.
-struct DocumentState {
-    TerrainValues terrain;
-    bool TerrainEmpty = true;
-    std::string CurrentFile;
-    std::uint64_t number = 1;  ///< no two states of a history have the same
-
-    /// Whether all is the same but the number, the running extremes and the texts of the header
-    /// that only files need.
-    bool SameAs(const DocumentState& other) const;
-};
-
-/// One command, from its first state to its last.
-struct HistoryStep {
-    std::string name;
-    DocumentState before;
-    DocumentState after;
-    std::vector<PackedBlock> blocks;
-
-    std::size_t Bytes() const;
 };
 
 /// The steps of a document that can be undone and redone. Commands add to it by HeightsChange.

@@ -1,7 +1,5 @@
 #include "terrain/StepKernels.h"
 
-#include <algorithm>
-
 #include "base/VectorClones.h"
 
 namespace quillbrand {
@@ -37,36 +35,24 @@ QB_VECTOR_CLONES void MarkTiles(const std::int32_t* one, const std::int32_t* oth
         *marks = 1;
 }
 
-QB_VECTOR_CLONES std::uint32_t FoldDifferences(const CellPair& cells, std::uint32_t* codes) {
-    const std::int32_t* before = cells.before;
-    const std::int32_t* after = cells.after;
+QB_VECTOR_CLONES std::uint32_t FoldRow(const std::int32_t* before, const std::int32_t* after,
+                                       std::size_t count, std::uint32_t* above,
+                                       std::uint32_t* codes) {
     std::uint32_t all = 0;
-    for (std::ptrdiff_t x = 0; x < cells.width; ++x)
-        all |= codes[x] = Folded(Difference(before[x], after[x]));
-    for (std::ptrdiff_t y = 1; y < cells.height; ++y) {
-        const std::int32_t* beforeAbove = before;
-        const std::int32_t* afterAbove = after;
-        before += cells.beforeStride;
-        after += cells.afterStride;
-        codes += cells.width;
-        for (std::ptrdiff_t x = 0; x < cells.width; ++x)
-            all |= codes[x] =
-                Folded(Difference(before[x], after[x]) - Difference(beforeAbove[x], afterAbove[x]));
+    for (std::size_t x = 0; x < count; ++x) {
+        const std::uint32_t difference = Difference(before[x], after[x]);
+        all |= codes[x] = Folded(difference - above[x]);
+        above[x] = difference;
     }
     return all;
 }
 
-QB_VECTOR_CLONES void UnfoldDifferences(const std::uint32_t* codes, std::ptrdiff_t width,
-                                        bool subtract, std::int32_t* cells, std::ptrdiff_t stride,
-                                        std::ptrdiff_t count, std::ptrdiff_t rows,
-                                        std::uint32_t* sums) {
+QB_VECTOR_CLONES void UnfoldRow(const std::uint32_t* codes, std::size_t count, bool subtract,
+                                std::uint32_t* sums, std::int32_t* cells) {
     const std::uint32_t sign = subtract ? ~0u : 0u;
-    std::fill_n(sums, count, 0);
-    for (std::ptrdiff_t y = 0; y < rows; ++y, codes += width, cells += stride) {
-        for (std::ptrdiff_t x = 0; x < count; ++x) {
-            sums[x] += (Unfolded(codes[x]) ^ sign) - sign;
-            cells[x] = static_cast<std::int32_t>(static_cast<std::uint32_t>(cells[x]) + sums[x]);
-        }
+    for (std::size_t x = 0; x < count; ++x) {
+        sums[x] += (Unfolded(codes[x]) ^ sign) - sign;
+        cells[x] = static_cast<std::int32_t>(static_cast<std::uint32_t>(cells[x]) + sums[x]);
     }
 }
 

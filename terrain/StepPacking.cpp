@@ -6,15 +6,15 @@
 #include <cassert>
 #include <cstddef>
 #include <new>
+#include <span>
+#include <utility>
 
+#include "terrain/HeightWriter.h"
 #include "terrain/StepKernels.h"
 
 namespace quillbrand {
 
 namespace {
-
-/// Fast, and what level 3 would save on top is not worth a pause of twice the length.
-constexpr int packingLevel = 1;
 
 int SideOf(const clsTerrain& terrain) {
     return terrain.Size() + 3;
@@ -24,21 +24,16 @@ std::size_t BandCells(int side) {
     return std::size_t{tileSide} * static_cast<std::size_t>(side);
 }
 
-/// The cells of a grid for writing; the only place that asks for them.
-struct Cells {
-    explicit Cells(clsTerrain& terrain) {
-        HeightWriter writer(terrain);
-        first = writer.Row(0).data();
-        stride = writer.Row(1).data() - first;
-    }
-    Height* At(int x, int y) const { return first + y * stride + x; }
+/// Calls action(row, cells) for each row of a rectangle, counted from its first.
+template <typename Action>
+void ForRows(clsTerrain& terrain, const GridRect& rect, Action action) {
+    HeightWriter writer(terrain, rect);
+    for (int row = 0; row < rect.Rows(); ++row)
+        action(row, writer.Row(rect.y0 + row));
+}
 
-    Height* first;
-    std::ptrdiff_t stride;
-};
-
-/// The rows top..top + rows - 1 of a grid, widened with zeros to `side` cells and as many rows
-/// where the grid itself is smaller.
+/// The rows of a tile's height of a grid, widened with zeros to `side` cells and as many rows where
+/// the grid itself is smaller.
 class Band {
   public:
     Band(const clsTerrain& terrain, int side) : terrain_(terrain), side_(side) {
@@ -47,27 +42,25 @@ class Band {
     }
 
     void MoveTo(int top, int rows) {
-        if (widened_.size() == 0) {
-            first_ = terrain_.Row(top).data();
-            stride_ = terrain_.Row(1).data() - terrain_.Row(0).data();
+        top_ = top;
+        if (widened_.size() == 0)
             return;
-        }
         std::fill_n(widened_.data(), widened_.size(), 0);
         for (int y = 0; y < rows && top + y < SideOf(terrain_); ++y)
             std::ranges::copy(terrain_.Row(top + y), widened_.data() + std::ptrdiff_t{side_} * y);
-        first_ = widened_.data();
-        stride_ = side_;
     }
 
-    const Height* At(int x, int y) const { return first_ + y * stride_ + x; }
-    std::ptrdiff_t Stride() const { return stride_; }
+    /// Row y of the band, `side` cells.
+    const Height* Row(int y) const {
+        return widened_.size() == 0 ? terrain_.Row(top_ + y).data()
+                                    : widened_.data() + std::ptrdiff_t{side_} * y;
+    }
 
   private:
     const clsTerrain& terrain_;
     int side_;
     GridBuffer<Height> widened_;
-    const Height* first_ = nullptr;
-    std::ptrdiff_t stride_ = 0;
+    int top_ = 0;
 };
 
 /// Calls action(first, last) for each row of marks that stand next to each other.
@@ -86,6 +79,21 @@ std::size_t Checked(std::size_t length) {
     if (ZSTD_isError(length))
         throw std::bad_alloc();
     return length;
+}
+
+/// Heights repeat by chance only. What makes them small is the coding of single bytes, so the
+/// search for repeats is held so short that it finds just the long ones: half the time for about
+/// the same memory.
+ZSTD_CCtx* NewPackingContext() {
+    ZSTD_CCtx* context = ZSTD_createCCtx();
+    if (context == nullptr)
+        throw std::bad_alloc();
+    for (const auto& [parameter, value] :
+         {std::pair{ZSTD_c_compressionLevel, 1}, {ZSTD_c_minMatch, 7}, {ZSTD_c_hashLog, 10}}) {
+        [[maybe_unused]] const std::size_t set = ZSTD_CCtx_setParameter(context, parameter, value);
+        assert(!ZSTD_isError(set));
+    }
+    return context;
 }
 
 template <typename Buffer>
@@ -108,10 +116,9 @@ void StepPacker::PrepareToPack(int side) {
     MakeRoom(codes_, BandCells(side));
     MakeRoom(plane_, BandCells(side));
     MakeRoom(packed_, 4 * ZSTD_compressBound(BandCells(side)));
+    MakeRoom(sums_, static_cast<std::size_t>(side));
     if (!packing_)
-        packing_.reset(ZSTD_createCCtx());
-    if (!packing_)
-        throw std::bad_alloc();
+        packing_.reset(NewPackingContext());
 }
 
 void StepPacker::Prepare(int side) {
@@ -137,43 +144,46 @@ std::vector<PackedBlock> StepPacker::Pack(const clsTerrain& before, const clsTer
         other.MoveTo(top, rows);
         std::ranges::fill(marks, std::uint8_t{0});
         for (int y = 0; y < rows; ++y)
-            MarkTiles(one.At(0, y), other.At(0, y), side, marks.data());
+            MarkTiles(one.Row(y), other.Row(y), side, marks.data());
         ForMarkedTiles(marks, [&](int first, int last) {
             const int x = first * tileSide;
-            const int width = std::min(last * tileSide, side) - x;
-            blocks.push_back(PackBlock(
-                x, top, {one.At(x, 0), one.Stride(), other.At(x, 0), other.Stride(), width, rows}));
+            PackedBlock block{x, top, std::min(last * tileSide, side) - x, rows, {}, {}};
+            const auto width = static_cast<std::size_t>(block.width);
+            std::fill_n(sums_.data(), width, 0);
+            std::uint32_t all = 0;
+            for (int y = 0; y < rows; ++y)
+                all |= FoldRow(one.Row(y) + x, other.Row(y) + x, width, sums_.data(),
+                               codes_.data() + width * static_cast<std::size_t>(y));
+            PackCodes(all, block);
+            blocks.push_back(std::move(block));
         });
     }
     return blocks;
 }
 
-PackedBlock StepPacker::PackBlock(int x, int y, const CellPair& cells) {
-    PackedBlock block{x, y, static_cast<int>(cells.width), static_cast<int>(cells.height), {}, {}};
-    const std::uint32_t allCodes = FoldDifferences(cells, codes_.data());
+void StepPacker::PackCodes(std::uint32_t allCodes, PackedBlock& block) {
     const std::size_t count = block.Count();
     std::size_t used = 0;
     for (int i = 0; i < 4; ++i) {
         if ((allCodes >> (8 * i) & 0xff) == 0)
             continue;
         SplitPlane(codes_.data(), count, 8 * i, plane_.data());
-        block.planeBytes[i] =
-            Checked(ZSTD_compressCCtx(packing_.get(), packed_.data() + used, packed_.size() - used,
-                                      plane_.data(), count, packingLevel));
+        block.planeBytes[i] = Checked(ZSTD_compress2(packing_.get(), packed_.data() + used,
+                                                     packed_.size() - used, plane_.data(), count));
         used += block.planeBytes[i];
     }
     const auto packed = std::as_bytes(packed_.All().first(used));
     block.bytes.assign(packed.begin(), packed.end());
-    return block;
 }
 
 void StepPacker::Follow(const PackedBlock& block, Way way, clsTerrain& terrain) {
-    const int columns = std::min(block.width, SideOf(terrain) - block.x);
-    const int rows = std::min(block.height, SideOf(terrain) - block.y);
-    if (columns <= 0 || rows <= 0)
+    const GridRect rect = GridRect::Cut(block.x, block.y, block.x + block.width - 1,
+                                        block.y + block.height - 1, terrain.Cells());
+    if (rect.IsEmpty())
         return;
+    const auto columns = static_cast<std::size_t>(rect.Columns());
     const std::size_t count = block.Count();
-    assert(unpacking_ && codes_.size() >= count && sums_.size() >= std::size_t(columns));
+    assert(unpacking_ && codes_.size() >= count && sums_.size() >= columns);
     std::fill_n(codes_.data(), count, 0);
     const std::byte* packed = block.bytes.data();
     for (int i = 0; i < 4; ++i) {
@@ -185,17 +195,20 @@ void StepPacker::Follow(const PackedBlock& block, Way way, clsTerrain& terrain) 
         JoinPlane(plane_.data(), count, 8 * i, codes_.data());
         packed += block.planeBytes[i];
     }
-    const Cells cells(terrain);
-    UnfoldDifferences(codes_.data(), block.width, way == Way::Forth, cells.At(block.x, block.y),
-                      cells.stride, columns, rows, sums_.data());
+    std::fill_n(sums_.data(), columns, 0);
+    ForRows(terrain, rect, [&](int row, std::span<Height> cells) {
+        UnfoldRow(codes_.data() + std::ptrdiff_t{block.width} * row, cells.size(),
+                  way == Way::Forth, sums_.data(), cells.data());
+    });
 }
 
 void CopyCells(const clsTerrain& from, clsTerrain& to, int x, int y, int width, int height) {
-    const int side = std::min(SideOf(from), SideOf(to));
-    const int columns = std::min(width, side - x);
-    const Cells cells(to);
-    for (int end = std::min(y + height, side); y < end && columns > 0; ++y)
-        std::copy_n(from.Row(y).data() + x, columns, cells.At(x, y));
+    const GridRect rect =
+        GridRect::Cut(x, y, x + width - 1, y + height - 1, from.Cells()).CutTo(to.Cells());
+    if (!rect.IsEmpty())
+        ForRows(to, rect, [&](int row, std::span<Height> cells) {
+            std::ranges::copy(from.Row(rect.y0 + row, rect), cells.begin());
+        });
 }
 
 }  // namespace quillbrand

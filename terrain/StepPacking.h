@@ -7,7 +7,6 @@
 
 #include "base/Files.h"
 #include "base/GridMemory.h"
-#include "terrain/StepKernels.h"
 #include "terrain/clsTerrain.h"
 
 struct ZSTD_CCtx_s;
@@ -57,7 +56,7 @@ class StepPacker {
     };
 
     void PrepareToPack(int side);
-    PackedBlock PackBlock(int x, int y, const CellPair& cells);
+    void PackCodes(std::uint32_t allCodes, PackedBlock& block);
 
     std::unique_ptr<ZSTD_CCtx_s, Free> packing_;
     std::unique_ptr<ZSTD_DCtx_s, Free> unpacking_;
@@ -67,7 +66,7 @@ class StepPacker {
     GridBuffer<std::uint32_t> sums_;
 };
 
-/// Copies the cells of a rectangle as far as both grids have them; the running extremes stay.
+/// Copies the cells of a rectangle as far as both grids have them.
 /// Requires: x, y >= 0.
 void CopyCells(const clsTerrain& from, clsTerrain& to, int x, int y, int width, int height);
 

@@ -37,6 +37,8 @@ namespace {
 /// Room around the picture.
 constexpr int pictureMargin = 20;
 
+constexpr int messageMs = 10'000;
+
 /// The one local TER file of a drag, or nothing.
 std::optional<std::filesystem::path> DraggedTerrain(const QMimeData* data) {
     if (data == nullptr || data->urls().size() != 1 || !data->urls().front().isLocalFile())
@@ -57,7 +59,7 @@ frmTer::frmTer(Session& session, WindowHost& host, QWidget* parent)
     ConnectParts();
     host_.Attach(
         this, [this](const std::string& text) { InfoText_->setText(QString::fromStdString(text)); },
-        [this] { ActualScreen(); }, [this] { KeepInputOut(); });
+        [this] { ActualScreen(); }, [this](bool take) { EnableInput(take); });
     UpdateTitle();
 }
 
@@ -80,6 +82,8 @@ void frmTer::ConnectParts() {
 }
 
 bool frmTer::Form_Load() {
+    session_.document.history.Mode(HistoryMode::Steps);
+    session_.document.history.Megabytes(session_.settings.historyMegabytes);
     session_.document.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
     if (session_.settings.BackColor)
@@ -163,6 +167,9 @@ void frmTer::ShowHistory() {
     };
     show(QStringLiteral("Undo"), history.CanUndo(), history.NameOfUndo());
     show(QStringLiteral("Redo"), history.CanRedo(), history.NameOfRedo());
+    if (history.LostHistory())
+        sBar_->showMessage(QStringLiteral("Not enough memory: nothing before can be undone"),
+                           messageMs);
 }
 
 void frmTer::EnableInput(bool enable) {
@@ -178,11 +185,6 @@ void frmTer::EnableInput(bool enable) {
         focusBefore_->setFocus();
     enable ? unsetCursor() : setCursor(Qt::WaitCursor);
     inputEnabled_ = enable;
-}
-
-/// At once, not at the next heartbeat: events may come through before it.
-void frmTer::KeepInputOut() {
-    EnableInput(false);
 }
 
 void frmTer::Timer1_Timer() {

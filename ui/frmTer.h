@@ -73,7 +73,6 @@ class frmTer : public QMainWindow, public Workplace {
 
     void ActualScreen();
     void EnableInput(bool enable);
-    void KeepInputOut();
     void Timer1_Timer();
     std::vector<ToolButton> Buttons();
     void Toolbar1_ButtonClick(const QString& key, const std::function<bool()>& work);

@@ -30,7 +30,7 @@ QRect Difference(const Picture& one, const Picture& other) {
     QRect around;
     for (int y = 0; y < one.Height(); ++y)
         for (int x = 0; x < one.Width(); ++x)
-            if (one.Point(x, y) != other.Point(x, y))
+            if (one.Row(y)[x] != other.Row(y)[x])
                 around |= QRect(x, y, 1, 1);
     return around;
 }
@@ -102,7 +102,7 @@ TEST(Canvas, DrawsWhatItsSlowTwinsDrawAndTellsWhere) {
         Picture fast = before;
         Picture slow = before;
         const QRect touched = DrawAnything(fast, slow, pen, chance);
-        ASSERT_EQ(fast.Image(), slow.Image()) << "round " << round << " width " << pen.width;
+        ASSERT_EQ(Difference(fast, slow), QRect()) << "round " << round << " width " << pen.width;
         const QRect changed = Difference(before, fast);
         if (pen.mode == DrawMode::Invert)
             ASSERT_EQ(touched, changed) << "round " << round;
@@ -113,15 +113,18 @@ TEST(Canvas, DrawsWhatItsSlowTwinsDrawAndTellsWhere) {
 
 TEST(Canvas, IncludesTheEndsOfLinesOfEveryWidth) {
     EXPECT_EQ(Drawn(5, [](Canvas& c) { c.Line(1, 1, 3, 3); }), "..... .#... ..#.. ...#. .....");
-    const auto upright = [](int width) {
+    const auto line = [](int width, int x1, int y1, int x2, int y2) {
         return Drawn(5, [=](Canvas& c) {
             c.DrawWidth(width);
-            c.Line(2, 3, 2, 1);
+            c.Line(x1, y1, x2, y2);
         });
     };
-    EXPECT_EQ(upright(2), "..... .##.. .##.. .##.. .....");
-    EXPECT_EQ(upright(3), "..... .###. .###. .###. .....");
-    EXPECT_EQ(upright(-7), "..... ..#.. ..#.. ..#.. .....") << "as a width of 1";
+    EXPECT_EQ(line(2, 2, 3, 2, 1), "..... .##.. .##.. .##.. .....");
+    EXPECT_EQ(line(3, 2, 3, 2, 1), "..... .###. .###. .###. .....");
+    EXPECT_EQ(line(-7, 2, 3, 2, 1), "..... ..#.. ..#.. ..#.. .....") << "as a width of 1";
+    EXPECT_EQ(line(3, 1, 3, 4, 2), "..... ...## .#### .#### .##..");
+    EXPECT_EQ(line(2, 1, 1, 3, 3), "..... ##... .##.. ..##. .....");
+    EXPECT_EQ(line(3, 2, 2, 2, 2), "..... ..... .###. ..... .....");
 }
 
 TEST(Canvas, DrawsAPointAsADiscAroundItsPixel) {
@@ -149,8 +152,8 @@ TEST(Canvas, DrawsCirclesAndBoxesAroundTheirFilling) {
               "....... ....... .#####. #+++++# .#####. ....... .......");
     EXPECT_EQ(filled([](Canvas& c) { c.Box(5, 4, 1, 1); }),
               "....... .#####. .#+++#. .#+++#. .#####. ....... .......");
-    EXPECT_EQ(filled([](Canvas& c) { c.FilledBox(2, 2, 3, 4); }),
-              "....... ....... ..##... ..##... ..##... ....... .......");
+    EXPECT_EQ(filled([](Canvas& c) { c.FilledBox(2, 2, 4, 5); }),
+              "....... ....... ..###.. ..###.. ..###.. ..###.. .......");
     EXPECT_EQ(filled([](Canvas& c) { c.Circle(3, 3, 0); }),
               "....... ....... ....... ...#... ....... ....... .......");
 }

@@ -88,7 +88,7 @@ TEST_F(Commands, SavedAndBackedUpTerrainsComeBack) {
     ClearTerrain(session.document, 5);
     RestoreTerrain(session.document, folder / "b.qbt");
     EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
-    EXPECT_TRUE(session.document.TerrainEmpty);
+    EXPECT_FALSE(session.document.TerrainEmpty);
 
     ClearTerrain(session.document, 5);
     EXPECT_TRUE(OpenTerrain(session.document, session.tools.LoadMemory, file, host));

@@ -206,7 +206,6 @@ TEST_F(Panels, TickTheSizeThatFitsAndNoOther) {
                 names += option->objectName();
         return names;
     };
-    EXPECT_EQ(session_.tools.chosenSize, std::nullopt);
     panel.TickSize(512);
     EXPECT_EQ(ticked(), QStringList("optTerSize2"));
     EXPECT_EQ(session_.tools.chosenSize, 512);

@@ -220,6 +220,7 @@ void dlgOptions::OKButton_Click() {
     settings.historyMegabytes = spnHistory_->value();
     settings.BackColor = ColourOf(workplace_.Window()->palette().color(QPalette::Window));
     SaveOptions(workplace_.TheSession().settings, settings);
+    workplace_.TheSession().document.history.Megabytes(settings.historyMegabytes);
     accept();
 }
 
