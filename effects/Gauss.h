@@ -8,7 +8,12 @@ namespace quillbrand {
 
 /// The bell over the rectangle with the corner (ox, oy) and the sides w, h, at the point (px, py).
 /// It is centred, its standard deviation is an eighth of the side, its peak is 0.36.
+/// The weight is the product of GaussBell(px, ox, w), 0.3, 0.3, GaussBell(py, oy, h) and 4, taken
+/// in that order in double floats.
 float GaussWeight(double px, double py, double ox, double oy, double w, double h);
+
+/// The bell along one side from `o` on, before its height: 1 in the middle.
+double GaussBell(double p, double o, double side);
 
 /// The bell on a square of points, made once, for whoever needs it often.
 class GaussTable {
