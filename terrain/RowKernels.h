@@ -18,6 +18,10 @@ void StretchRow(std::span<std::int32_t> cells, double factor, double centre, Ext
 void MapHeights(std::span<std::int32_t> cells, std::int32_t lowest,
                 std::span<const std::int32_t> images);
 
+/// Adds amounts[i] to cells[i], and widens `met` by the amounts. Returns false where a sum does not
+/// fit into 32 bits. Requires: as many of both.
+bool AddCells(std::span<std::int32_t> cells, std::span<const std::int32_t> amounts, Extremes& met);
+
 /// Cells to as many 16-bit samples. Returns false, with these in any state, when one does not fit.
 bool NarrowCells(std::span<const std::int32_t> cells, std::int16_t* samples);
 
