@@ -7,7 +7,9 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSlider>
+#include <QTimer>
 #include <QToolBar>
 
 #include "base/Fault.h"
@@ -26,28 +28,6 @@ class MainWindow : public WindowFixture {
         return Find<QToolBar>("Toolbar1")->findChild<QAction*>(QString::fromUtf8(key))->isEnabled();
     }
 };
-
-TEST_F(MainWindow, StartsEmptyWithItsTitleAndTheListOfSets) {
-    ASSERT_TRUE(StartWindow());
-    EXPECT_EQ(window_->windowTitle(), "Quillbrand  [noname]");
-    EXPECT_TRUE(session_.document.TerrainEmpty);
-    for (const char* key : {"Speichern", "SpeichernAls", "Print", "Restore", "Backup"})
-        EXPECT_FALSE(ToolIsEnabled(key)) << key;
-    for (const char* key : {"Neu", "Öffnen", "Löschen", "Hilfe", "Zoom in", "Zoom out", "Zoom100"})
-        EXPECT_TRUE(ToolIsEnabled(key)) << key;
-    EXPECT_EQ(Find<QLineEdit>("txtRandom")->text(),
-              QString::number(session_.tools.RandomSeedValue));
-}
-
-TEST_F(MainWindow, OffersNothingThatIsNotThere) {
-    ASSERT_TRUE(StartWindow());
-    Produce("151");
-    for (const char* key : {"View3d", "ObjectMaker"})
-        EXPECT_FALSE(ToolIsEnabled(key)) << key;
-    for (const char* name : {"cmdMask", "ToolBarPen", "cmdObjLoad", "cmdObjMergeAll",
-                             "cmdObjDeleteAll", "cmdObjektmaker"})
-        EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
-}
 
 TEST_F(MainWindow, EndsWithAMessageWhenThereAreNoSets) {
     std::filesystem::remove_all(folder_ / "PS");
@@ -257,6 +237,73 @@ TEST_F(MainWindow, KeepsOutOfARunningCommand) {
     }
     EXPECT_TRUE(start->isEnabled());
     EXPECT_EQ(window_->focusWidget(), start);
+}
+
+TEST_F(MainWindow, StartsNothingInsideARunThatLetsEventsThrough) {
+    ASSERT_TRUE(StartWindow());
+    ShowTab("Global");
+    Click("optTerSize4");
+    ShowTab("Generator");
+    Find<QSlider>("sldIteration")->setValue(3);
+    WriteText(folder_ / "dropped.ter", std::string(200, 'x'));
+    QMimeData dragged;
+    dragged.setUrls(
+        {QUrl::fromLocalFile(QString::fromStdString((folder_ / "dropped.ter").string()))});
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window_.get(), &enter);
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    int pressedInside = 0;
+    QTimer impatience;
+    QObject::connect(&impatience, &QTimer::timeout, [&] {
+        if (!host_->CommandRuns())
+            return;
+        ++pressedInside;
+        for (auto* button : {"cmdGenerator", "cmdPreview", "CmdResize"})
+            emit Find<QPushButton>(button)->clicked();
+        Find<QAction>("Löschen")->trigger();
+        EXPECT_EQ(session_.document.CurrentFile, "noname");
+    });
+    impatience.start(0);
+    // Just before the command begins, so that it waits for its end.
+    QApplication::sendEvent(window_.get(), &drop);
+    emit Find<QPushButton>("cmdGenerator")->clicked();
+    EXPECT_GT(pressedInside, 1);
+    EXPECT_EQ(session_.document.history.Entries().size(), 1);
+    EXPECT_EQ(session_.document.CurrentFile, "noname") << "the file waits";
+    impatience.stop();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return session_.document.CurrentFile != "noname"; }));
+}
+
+TEST_F(MainWindow, TakesCommandsBackAndDoesThemAgain) {
+    ASSERT_TRUE(StartWindow());
+    const auto flat = Heights();
+    EXPECT_FALSE(ToolIsEnabled("Undo"));
+    Produce("8128");
+    const auto produced = Heights();
+    const QImage picture = Find<PictureBox>("Picture1")->Raster().Image();
+    Click("chkClearTerrain");
+    ShowTab("Effects");
+    Click("optFilter2");
+    Click("cmdStartEffects");
+    const auto inverted = Heights();
+    EXPECT_NE(inverted, produced);
+    EXPECT_EQ(Find<QAction>("Undo")->toolTip(), "Undo: Invers");
+    ClickTool("Undo");
+    EXPECT_EQ(Heights(), produced);
+    EXPECT_EQ(Find<PictureBox>("Picture1")->Raster().Image(), picture);
+    EXPECT_EQ(Find<QAction>("Redo")->toolTip(), "Redo: Invers");
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    QTest::keyClick(window_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Heights(), flat);
+    EXPECT_TRUE(session_.document.TerrainEmpty);
+    EXPECT_FALSE(ToolIsEnabled("Undo"));
+    EXPECT_FALSE(ToolIsEnabled("Speichern"));
+    EXPECT_EQ(Find<PictureBox>("Picture1")->Raster().Width(), 257) << "as it was before";
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(window_.get(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(Heights(), inverted);
+    EXPECT_FALSE(ToolIsEnabled("Redo"));
 }
 
 TEST_F(MainWindow, LivesWithAScaleThatLeavesEveryRange) {
