@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "base/ByteBuffer.h"
+
 namespace quillbrand {
 
 namespace {
@@ -48,15 +50,6 @@ class Walk {
     std::size_t place_ = 0;
     bool inside_ = true;
 };
-
-/// A little-endian value, or 0 beyond the end.
-template <typename Value>
-Value ValueAt(Span bytes, std::size_t offset) {
-    Value value{};
-    if (offset + sizeof value <= bytes.size())
-        std::memcpy(&value, bytes.data() + offset, sizeof value);
-    return value;
-}
 
 /// The next byte behind 0xFF that is a marker: not the zero that follows such a byte of the
 /// picture's data, nor one of the bytes that fill a gap. 0 at the end of the file.
