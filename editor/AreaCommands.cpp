@@ -13,9 +13,8 @@
 #include "base/NumberText.h"
 #include "base/Numbers.h"
 #include "base/VectorClones.h"
-#include "editor/Increments.h"
 #include "effects/Gauss.h"
-#include "terrain/RowKernels.h"
+#include "terrain/HeightWriter.h"
 #include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
@@ -46,7 +45,13 @@ class Area {
     double Down() const { return double{frame_.bottom} - frame_.top; }
     const std::vector<FrameLine>& Columns() const { return columns_; }
     const std::vector<FrameLine>& Rows() const { return rows_; }
-    bool IsEmpty() const { return columns_.empty() || rows_.empty(); }
+
+    /// The part of the grid that it touches.
+    GridRect Rect() const {
+        if (columns_.empty() || rows_.empty())
+            return {};
+        return {columns_.front().cell, rows_.front().cell, columns_.back().cell, rows_.back().cell};
+    }
 
     /// Calls `work` with each row and the runs of its columns. The percent is that of columns, of
     /// which as many count as done as rows are.
@@ -111,13 +116,12 @@ class Hill {
     }
 
     void AddTo(clsTerrain& terrain, Host& host) {
-        Increments increments(terrain);
         area_.ForEachRow(host, [&](std::size_t row, const std::vector<Run>& runs) {
             for (const Run& run : runs) {
                 FillAmounts(&columnBells_[run.line], static_cast<std::ptrdiff_t>(run.count),
                             rowBells_[row], k_, amounts_.data());
-                increments.Add(run.column, area_.Rows()[row].cell,
-                               std::span(amounts_).first(run.count));
+                terrain.IncrPoints(run.column, area_.Rows()[row].cell,
+                                   std::span(amounts_).first(run.count));
             }
         });
     }
@@ -132,13 +136,9 @@ class Hill {
 
 /// Whether every height of an area can move by `most`, even four times where lines fall together.
 bool HasRoom(const clsTerrain& terrain, const Area& area, double most) {
-    if (area.IsEmpty())
+    if (area.Rect().IsEmpty())
         return true;
-    const int x0 = area.Columns().front().cell;
-    const int x1 = area.Columns().back().cell;
-    Extremes found{0, 0};
-    for (const FrameLine& row : area.Rows())
-        FindExtremes(terrain.Row(row.cell).data() + x0, x1 - x0 + 1, 1, 0, found);
+    const Extremes found = terrain.Measure(area.Rect());
     return found.low - 4 * most > INT32_MIN && found.high + 4 * most < INT32_MAX;
 }
 
@@ -177,14 +177,15 @@ void FillArea(clsTerrain& terrain, const Frame& frame, int height, bool& Terrain
     host.Status("Terrain fill...");
     const Height z = height - 32768;
     const Area area(terrain, Converted(frame));
-    if (!area.IsEmpty()) {
-        HeightWriter writer(terrain);
+    const GridRect rect = area.Rect();
+    if (!rect.IsEmpty()) {
+        HeightWriter writer(terrain, rect);
         area.ForEachRow(host, [&](std::size_t row, const std::vector<Run>& runs) {
-            Height* const cells = writer.Row(area.Rows()[row].cell).data();
+            const auto cells = writer.UnmeasuredRow(area.Rows()[row].cell);
             for (const Run& run : runs)
-                std::fill_n(cells + run.column, run.count, z);
+                std::fill_n(cells.data() + (run.column - rect.x0), run.count, z);
         });
-        writer.Stored(z, z);
+        writer.Stored().Widen(z);
     }
     TerrainEmpty = false;
 }

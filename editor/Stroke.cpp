@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "base/Numbers.h"
-#include "editor/Increments.h"
 #include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
@@ -33,18 +32,15 @@ class Hill {
 
     /// Adds it around a point, as far as it lies in the grid.
     void AddTo(clsTerrain& terrain, const StrokeMap::Point& point) const {
-        const int last = terrain.Size() + 2;
-        const int x0 = std::max(point.x - reach_, 0);
-        const int x1 = std::min(point.x + reach_, last);
-        const int y1 = std::min(point.y + reach_, last);
-        Increments increments(terrain);
-        for (int y = std::max(point.y - reach_, 0); y <= y1; ++y)
-            increments.Add(x0, y, Part(x0 - point.x, y - point.y, x1 - x0 + 1));
+        const GridRect part = GridRect::Cut(point.x - reach_, point.y - reach_, point.x + reach_,
+                                            point.y + reach_, terrain.Cells());
+        for (int y = part.y0; y <= part.y1; ++y)
+            terrain.IncrPoints(part.x0, y, Row(y - point.y, part.x0 - point.x, part.Columns()));
     }
 
   private:
-    /// `count` amounts from i to the right of and j below the middle on.
-    std::span<const Height> Part(int i, int j, int count) const {
+    /// `count` amounts of the row j below the middle, from i to the right of it on.
+    std::span<const Height> Row(int j, int i, int count) const {
         return std::span(amounts_).subspan(
             static_cast<std::size_t>((j + reach_) * side_ + i + reach_),
             static_cast<std::size_t>(count));

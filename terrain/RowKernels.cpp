@@ -1,6 +1,7 @@
 #include "terrain/RowKernels.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 
 #include "base/VectorClones.h"
@@ -28,6 +29,28 @@ QB_VECTOR_CLONES void StretchRow(std::span<std::int32_t> cells, double factor, d
         high = std::max(high, z);
     }
     stored = {low, high};
+}
+
+QB_VECTOR_CLONES bool AddCells(std::span<std::int32_t> cells, std::span<const std::int32_t> amounts,
+                               Extremes& met) {
+    assert(cells.size() == amounts.size());
+    std::int32_t* __restrict sums = cells.data();
+    const std::int32_t* __restrict added = amounts.data();
+    std::uint32_t wrapped = 0;
+    std::int32_t low = met.low;
+    std::int32_t high = met.high;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        const auto cell = static_cast<std::uint32_t>(sums[i]);
+        const auto amount = static_cast<std::uint32_t>(added[i]);
+        const std::uint32_t sum = cell + amount;
+        // The sign of a sum that wraps around differs from that of both its parts.
+        wrapped |= (cell ^ sum) & (amount ^ sum);
+        sums[i] = static_cast<std::int32_t>(sum);
+        low = std::min(low, added[i]);
+        high = std::max(high, added[i]);
+    }
+    met = {low, high};
+    return wrapped >> 31 == 0;
 }
 
 QB_VECTOR_CLONES bool NarrowCells(const std::int32_t* cells, std::ptrdiff_t count,

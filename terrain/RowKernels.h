@@ -15,6 +15,10 @@ void FindExtremes(std::span<const std::int32_t> cells, Extremes& found);
 /// must fit into 32 bits. Widens `stored` by them.
 void StretchRow(std::span<std::int32_t> cells, double factor, double centre, Extremes& stored);
 
+/// Adds amounts[i] to cells[i], and widens `met` by the amounts. Returns false where a sum does not
+/// fit into 32 bits. Requires: as many of both.
+bool AddCells(std::span<std::int32_t> cells, std::span<const std::int32_t> amounts, Extremes& met);
+
 /// Cells to 16-bit samples. Returns false, with `samples` in any state, when one does not fit.
 bool NarrowCells(const std::int32_t* cells, std::ptrdiff_t count, std::int16_t* samples);
 

@@ -24,6 +24,12 @@ double Ratio(double part, double whole, const char* what) {
     return part / whole;
 }
 
+void RequirePoints(std::int64_t points) {
+    if (points < 1 || points > INT16_MAX)
+        throw Fault("a terrain of " + std::to_string(points) + " points per side cannot be made (" +
+                    "1 to " + std::to_string(INT16_MAX) + ")");
+}
+
 }  // namespace
 
 clsTerrain::clsTerrain() {
@@ -32,16 +38,18 @@ clsTerrain::clsTerrain() {
 }
 
 void clsTerrain::Init(std::int64_t points) {
-    if (points < 1 || points > INT16_MAX)
-        throw Fault("a terrain of " + std::to_string(points) + " points per side cannot be made (" +
-                    "1 to " + std::to_string(INT16_MAX) + ")");
-    const int side = static_cast<int>(points) + 2;
-    const auto count = static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
-    if (cells_.size() == count)
-        std::fill_n(cells_.data(), count, 0);
+    RequirePoints(points);
+    const auto side = static_cast<std::size_t>(points) + 2;
+    if (cells_.size() == side * side)
+        std::fill_n(cells_.data(), cells_.size(), 0);
     else
-        cells_ = GridBuffer<Height>(count, 0);
-    side_ = side;
+        cells_ = GridBuffer<Height>(side * side, 0);
+    SetSide(points);
+}
+
+/// What goes with a new grid.
+void clsTerrain::SetSide(std::int64_t points) {
+    side_ = static_cast<int>(points) + 2;
     Size(points - 1);
     extremes_ = {400000, -400000};
 }
@@ -158,6 +166,12 @@ void clsTerrain::IncrPoint(int x, int y, Height d) {
     extremes_.Widen(d);
 }
 
+void clsTerrain::IncrPoints(int x, int y, std::span<const Height> d) {
+    assert(d.empty() || (InGrid(x, y) && InGrid(x + static_cast<int>(d.size()) - 1, y)));
+    if (!d.empty() && !AddCells({cells_.data() + Index(x, y), d.size()}, d, extremes_))
+        throw Fault("overflow: a height in row " + std::to_string(y) + " leaves 32 bits");
+}
+
 void clsTerrain::Fill(Height z) {
     std::fill_n(cells_.data(), cells_.size(), z);
     extremes_ = searched;
@@ -257,6 +271,14 @@ void clsTerrain::SetTerrain(const SquareArray& array) {
         const auto row = writer.Row(y);
         std::copy_n(array.Row(y), row.size(), row.begin());
     }
+}
+
+void clsTerrain::TakeTerrain(SquareArray array) {
+    const int points = array.Upper() - 1;
+    RequirePoints(points);
+    cells_ = std::move(array).TakeCells();
+    SetSide(points);
+    extremes_.Widen(Measure(Cells()));
 }
 
 void clsTerrain::RequireInGrid(int x1, int y1, int x2, int y2) const {

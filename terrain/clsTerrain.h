@@ -98,6 +98,10 @@ class clsTerrain {
     /// they are stale until Range runs. Fault when the height leaves 32 bits.
     void IncrPoint(int x, int y, Height d);
 
+    /// The same for the cells (x + i, y) and the amounts d[i]; after a fault the row is in any
+    /// state. Requires: the cells lie in the grid.
+    void IncrPoints(int x, int y, std::span<const Height> d);
+
     /// The cell nearest to x, y.
     Height GetPoint(int x, int y) const {
         const int last = header_.Size + 2;
@@ -127,6 +131,9 @@ class clsTerrain {
 
     /// Stores the cells (0..Size() + 2)² of `array`, whose upper index must reach that far.
     void SetTerrain(const SquareArray& array);
+
+    /// As Init(array.Upper() - 1) and SetTerrain(array) would leave it, without copying.
+    void TakeTerrain(SquareArray array);
 
     /// Mirrors a rectangle, bounds inclusive and inside the grid, top to bottom (Hor) or left to
     /// right (Ver). The running extremes stay. Fault when a bound lies outside the grid.
@@ -178,6 +185,8 @@ class clsTerrain {
         const auto last = static_cast<unsigned>(header_.Size + 2);
         return static_cast<unsigned>(x) <= last && static_cast<unsigned>(y) <= last;
     }
+
+    void SetSide(std::int64_t points);
 
     /// mode 1 returns the maximum, 2 the minimum, any other 0; all make the extremes true.
     Height GetExtremes(int mode);
