@@ -55,8 +55,10 @@ IniFile IniFile::Parse(std::span<const std::byte> bytes) {
 }
 
 IniFile IniFile::Read(const std::filesystem::path& path) {
-    if (!STDIO::FileExists(path))
-        return {};
+    return STDIO::FileExists(path) ? ReadExisting(path) : IniFile();
+}
+
+IniFile IniFile::ReadExisting(const std::filesystem::path& path) {
     const Bytes bytes = ReadFile(path, mostBytes + 1);
     IniFile file = Parse(bytes);
     if (bytes.size() > mostBytes)

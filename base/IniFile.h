@@ -25,6 +25,9 @@ class IniFile {
     /// Reads the file. One that does not exist reads as empty; any other trouble is a Fault.
     static IniFile Read(const std::filesystem::path& path);
 
+    /// The same, but one that does not exist is a Fault too.
+    static IniFile ReadExisting(const std::filesystem::path& path);
+
     /// The value of a key as a reader with a buffer of `buffer` characters gets it: cut to what
     /// fits beside a closing NUL, cut at its first NUL, without quotes around it, trimmed.
     std::string Get(const std::string& section, const std::string& key,

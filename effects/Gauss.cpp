@@ -28,6 +28,7 @@ float GaussWeight(double px, double py, double ox, double oy, double w, double h
 /// Both sides share one row of bells: the same numbers as from GaussWeight, with fewer
 /// exponentials.
 GaussTable::GaussTable(int n) : upper_(n) {
+    assert(n > 0);
     std::vector<double> bells;
     for (int i = 0; i <= n; ++i)
         bells.push_back(GaussBell(i, 0, n));

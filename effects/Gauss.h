@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cassert>
+#include <cstddef>
 #include <vector>
 
 namespace quillbrand {
@@ -22,14 +24,16 @@ class GaussTable {
     /// No points at all.
     GaussTable() = default;
 
-    /// The bell over the points 0..n in both directions (`BuildGaussTable`).
+    /// The bell over the points 0..n in both directions (`BuildGaussTable`). Requires: n > 0.
     explicit GaussTable(int n);
 
     /// `depth` times the bell over the rectangle, read from the nearest place of the table. Throws
     /// Fault for a point outside the rectangle.
     float Weight(double x, double y, double ox, double oy, double w, double h, double depth) const;
 
+    /// Requires: 0 <= i, j <= n.
     float At(int i, int j) const {
+        assert(i >= 0 && i <= upper_ && j >= 0 && j <= upper_);
         return weights_[static_cast<std::size_t>(i) * static_cast<std::size_t>(upper_ + 1) +
                         static_cast<std::size_t>(j)];
     }

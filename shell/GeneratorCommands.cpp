@@ -32,7 +32,7 @@ void ProduceTerrain(Session& session, int size, const GeneratorSettings& setting
     ProduceTerrain(session.CurrentTerrain, size, settings, ContextOf(session), host);
     // Only now: the run itself used the mode that stood before.
     if (settings.clearTerrain || session.TerrainEmpty)
-        session.ModifyMode = Add;
+        session.ModifyMode = ModifyModes::Add;
     session.TerrainEmpty = false;
     host.Busy(false);
 }

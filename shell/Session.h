@@ -40,7 +40,7 @@ struct Session {
     std::optional<Colour> BackColor;  ///< of the window, where the settings tell one
     double ViewZoom = 1.0;
     int RandomSeedValue = 0;
-    int ModifyMode = Add;
+    int ModifyMode = ModifyModes::Add;
     PerlinSetTable PerlinSets;
     std::array<int, 100> EffectStrength{};
     std::string ErodePictureName;

@@ -305,35 +305,43 @@ void clsTerrain::GetReflectVer(int x1, int y1, int x2, int y2) {
         std::reverse(&cells_[Index(x1, y)], &cells_[Index(x2, y)] + 1);
 }
 
+void clsTerrain::FillRect(const GridRect& rect, Height z) {
+    if (rect.IsEmpty())
+        return;
+    for (int y = rect.y0; y <= rect.y1; ++y)
+        std::fill_n(cells_.data() + Index(rect.x0, y), rect.Columns(), z);
+    extremes_.Widen(z);
+}
+
 void clsTerrain::GetCircle(double cx, double cy, int r, Height z) {
-    const int x = RoundTo32(cx);
-    const int y = RoundTo32(cy);
-    for (int i = 0; i <= r; ++i) {
-        const int h = RoundTo32(std::sqrt(double{1} * r * r - double{1} * i * i));
-        for (int j = 0; j <= h; ++j) {
-            SetPoint(x + i, y + j, z);
-            SetPoint(x - i, y + j, z);
-            SetPoint(x + i, y - j, z);
-            SetPoint(x - i, y - j, z);
-        }
+    const std::int64_t x = RoundTo32(cx);
+    const std::int64_t y = RoundTo32(cy);
+    const std::int64_t radius = r;
+    const GridRect around = GridRect::Cut(x - radius, y - radius, x + radius, y + radius, Cells());
+    for (int column = around.x0; column <= around.x1; ++column) {
+        const std::int64_t i = column - x;
+        const auto h = static_cast<std::int64_t>(
+            RoundHalfEven(std::sqrt(static_cast<double>(radius * radius - i * i))));
+        FillRect(GridRect::Cut(column, y - h, column, y + h, Cells()), z);
     }
 }
 
 void clsTerrain::GetSquare(double cx, double cy, int r, Height z) {
-    const int x = RoundTo32(cx);
-    const int y = RoundTo32(cy);
-    for (int j = -r; j <= r; ++j)
-        for (int i = -r; i <= r; ++i)
-            SetPoint(x + i, y + j, z);
+    const std::int64_t x = RoundTo32(cx);
+    const std::int64_t y = RoundTo32(cy);
+    const std::int64_t radius = r;
+    FillRect(GridRect::Cut(x - radius, y - radius, x + radius, y + radius, Cells()), z);
 }
 
 void clsTerrain::GetNoise(double cx, double cy, int r, Height z, RandomSource& chance) {
     const int centreX = RoundTo32(cx);
     const int centreY = RoundTo32(cy);
+    const double last = Size() + 2;
     for (int i = 0; i < r; ++i) {
-        const int x = RoundTo32(2 * chance.Uniform() * r + centreX - r);
-        const int y = RoundTo32(2 * chance.Uniform() * r + centreY - r);
-        SetPoint(x, y, z);
+        const double x = RoundHalfEven(2 * chance.Uniform() * r + centreX - r);
+        const double y = RoundHalfEven(2 * chance.Uniform() * r + centreY - r);
+        if (x >= 0 && x <= last && y >= 0 && y <= last)
+            SetPoint(static_cast<int>(x), static_cast<int>(y), z);
     }
 }
 

@@ -80,8 +80,8 @@ class clsTerrain {
     float GetV2Meter(float raw) const;
     Height GetMeter2Int(float metres) const;
 
-    /// The cell in metres and in TU. x, y must lie in the grid. Fault when raw * HeightScale leaves
-    /// 32 bits.
+    /// The cell in metres and in TU. Fault when raw * HeightScale leaves 32 bits. Requires: x, y
+    /// lies in the grid.
     float GetPointMeters(int x, int y) const;
     float GetPointTU(int x, int y) const;
     float GetPointTUZ(Height raw) const;
@@ -129,7 +129,7 @@ class clsTerrain {
     /// A copy of the cells in an array with the upper index Size() + 10; the rest is 0.
     SquareArray GetTerrain() const;
 
-    /// Stores the cells (0..Size() + 2)² of `array`, whose upper index must reach that far.
+    /// Stores the cells (0..Size() + 2)² of `array`. Requires: its upper index reaches that far.
     void SetTerrain(const SquareArray& array);
 
     /// As Init(array.Upper() - 1) and SetTerrain(array) would leave it, without copying.
@@ -140,8 +140,9 @@ class clsTerrain {
     void GetReflectHor(int x1, int y1, int x2, int y2);
     void GetReflectVer(int x1, int y1, int x2, int y2);
 
-    /// A filled disc, a filled square and r random dots, with the height z; radius r; the centre
-    /// is rounded once; what lies outside the grid is left out.
+    /// A filled disc, a filled square and r random dots, with the height z; radius r, nothing for
+    /// one below 0; the centre is rounded once; what lies outside the grid is left out. Fault for a
+    /// centre beyond 32 bits.
     void GetCircle(double cx, double cy, int r, Height z);
     void GetSquare(double cx, double cy, int r, Height z);
     void GetNoise(double cx, double cy, int r, Height z, RandomSource& chance);
@@ -190,6 +191,7 @@ class clsTerrain {
 
     /// mode 1 returns the maximum, 2 the minimum, any other 0; all make the extremes true.
     Height GetExtremes(int mode);
+    void FillRect(const GridRect& rect, Height z);
     void StretchTo(double factor, double centre);
     HeightWindow Window() const;
     void Store(const HeightWindow& window);

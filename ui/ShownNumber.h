@@ -2,19 +2,14 @@
 
 #include <QString>
 
-#include "base/Fault.h"
+#include "base/NumberText.h"
 
 namespace quillbrand {
 
-/// The text that `makeText` gives, or "?" where it faults: a file may hold any scale, and a field
-/// that cannot show it must not end what runs.
+/// ShownText for a field.
 template <typename MakeText>
 QString ShownNumber(MakeText makeText) {
-    try {
-        return QString::fromStdString(makeText());
-    } catch (const Fault&) {
-        return QStringLiteral("?");
-    }
+    return QString::fromStdString(ShownText(makeText));
 }
 
 }  // namespace quillbrand

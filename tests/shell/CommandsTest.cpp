@@ -90,14 +90,14 @@ TEST_F(Commands, SavedAndBackedUpTerrainsComeBack) {
 }
 
 TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
-    session.ModifyMode = Subtraction;
+    session.ModifyMode = ModifyModes::Subtraction;
     ProduceTerrain(session, 128, {.seed = "1"}, host);
-    EXPECT_EQ(session.ModifyMode, Subtraction);
+    EXPECT_EQ(session.ModifyMode, ModifyModes::Subtraction);
 
-    session.ModifyMode = Multiplication;
+    session.ModifyMode = ModifyModes::Multiplication;
     ProduceTerrain(session, 128, {.seed = "1", .clearTerrain = true}, host);
     EXPECT_EQ(session.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
-    EXPECT_EQ(session.ModifyMode, Add);
+    EXPECT_EQ(session.ModifyMode, ModifyModes::Add);
 
     ClearTerrain(session, 129);
     ProduceTerrain(session, 128, {.seed = "1"}, host);
@@ -107,13 +107,13 @@ TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
 
 TEST_F(Commands, GeneratorFileCarriesSeedAndModeOfTheSession) {
     session.RandomSeedValue = 4711;
-    session.ModifyMode = highest;
+    session.ModifyMode = ModifyModes::highest;
     SaveGenerator(session, folder / "a.par", {.iterations = 7, .seed = {}});
     session.RandomSeedValue = 0;
-    session.ModifyMode = Add;
+    session.ModifyMode = ModifyModes::Add;
     EXPECT_EQ(LoadGenerator(session, folder / "a.par", 0).iterations, 7);
     EXPECT_EQ(session.RandomSeedValue, 4711);
-    EXPECT_EQ(session.ModifyMode, highest);
+    EXPECT_EQ(session.ModifyMode, ModifyModes::highest);
     WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\n");
     EXPECT_EQ(LoadGenerator(session, folder / "far.par", 0).seed, "1e10");
     EXPECT_EQ(session.RandomSeedValue, 2147483647);
