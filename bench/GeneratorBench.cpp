@@ -4,7 +4,7 @@
 #include "bench/BenchTerrain.h"
 #include "bench/CopyUnit.h"
 #include "generator/GenerateTerrain.h"
-#include "terrain/Doubling.h"
+#include "terrain/DoubleGrid.h"
 #include "tests/support/NoiseSet.h"
 #include "tests/support/TemporaryFolder.h"
 

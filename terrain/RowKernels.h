@@ -14,6 +14,10 @@ void FindExtremes(std::span<const std::int32_t> cells, Extremes& found);
 /// by the results. Requires: they fit into 32 bits.
 void StretchRow(std::span<std::int32_t> cells, double factor, double centre, Extremes& stored);
 
+/// Adds amounts[i] to cells[i], and widens `met` by the amounts. Returns false where a sum does not
+/// fit into 32 bits. Requires: as many of both.
+bool AddCells(std::span<std::int32_t> cells, std::span<const std::int32_t> amounts, Extremes& met);
+
 /// Each cell becomes images[cell - lowest]. Requires: no cell lies outside the table.
 void MapHeights(std::span<std::int32_t> cells, std::int32_t lowest,
                 std::span<const std::int32_t> images);

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "terrain/Doubling.h"
+#include "terrain/DoubleGrid.h"
 #include "tests/support/Faults.h"
 #include "tests/support/Grids.h"
 #include "tests/support/NoiseSet.h"

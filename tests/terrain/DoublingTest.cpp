@@ -1,4 +1,4 @@
-#include "terrain/Doubling.h"
+#include "terrain/DoubleGrid.h"
 
 #include <gtest/gtest.h>
 
