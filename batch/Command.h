@@ -50,14 +50,17 @@ class Arguments {
 /// A command of the program: everything that parsing it, running it and the help need.
 struct Command {
     std::string word;
-    std::string summary;  ///< for the help
-    std::vector<Key> keys;
+    std::string summary;    ///< for the help
+    std::vector<Key> keys;  ///< `replace` joins those that write a file
     void (*run)(Batch&, const Arguments&);
     bool needsAnyKey = false;  ///< makes no sense without a key
 };
 
 /// Every command, in the order of the help.
 const std::vector<Command>& AllCommands();
+
+/// Throws UsageError for a word that is no command.
+const Command& FindCommand(const std::string& word);
 
 // The commands of each subject, for the table.
 std::vector<Command> TerrainCommandTable();

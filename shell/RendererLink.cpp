@@ -79,8 +79,8 @@ void StartRenderer(const std::filesystem::path& folder, const std::string& file)
 void StartTerragen(Session& session, Host& host, const std::function<void()>& saveUnnamed) {
     if (session.document.TerrainEmpty)
         throw Fault("Terrain empty !", "Save");
-    const Answer answer =
-        host.Ask({"Terrain save, before start terragen", "Start Terragen", Buttons::YesNoCancel});
+    const Answer answer = host.Ask({"Terrain save, before start terragen", "Start Terragen",
+                                    Buttons::YesNoCancel, QuestionId::SaveFirst});
     const std::string folder = vbConfig::ReadIni(session, "Terragen", "directory");
     if (folder.empty())
         throw Fault(selectFolder, "Start Terragen");

@@ -78,6 +78,7 @@ void BackupTerrain(Session& session, const std::filesystem::path& path) {
 void RestoreTerrain(Session& session, const std::filesystem::path& path) {
     LoadBackup(session.document.CurrentTerrain, path);
     session.document.CurrentTerrain.Range();
+    session.document.TerrainEmpty = false;
 }
 
 std::filesystem::path BackupPath(const Session& session) {

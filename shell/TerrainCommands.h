@@ -34,7 +34,8 @@ void SaveCurrentFile(Session& session, Host& host);
 /// "Backup" into the file `path`.
 void BackupTerrain(Session& session, const std::filesystem::path& path);
 
-/// "Restore" from the file `path`. Name, flags and objects are not part of a backup.
+/// "Restore" from the file `path`. Name, flags and objects are not part of a backup, but heights
+/// that were loaded end an empty terrain.
 void RestoreTerrain(Session& session, const std::filesystem::path& path);
 
 /// The one backup slot, in the program folder; a normal exit removes the file.
