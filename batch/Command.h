@@ -14,6 +14,8 @@ struct Batch;
 struct Argument {
     std::string key;
     Value value;
+
+    bool operator==(const Argument&) const = default;
 };
 
 /// What a command was given, in the order given, with the defaults of the table behind it.

@@ -14,12 +14,16 @@ namespace quillbrand {
 struct PicturePoint {
     double x;
     double y;
+
+    bool operator==(const PicturePoint&) const = default;
 };
 
 /// Two corners of a frame, as they were given.
 struct PictureArea {
     PicturePoint from;
     PicturePoint to;
+
+    bool operator==(const PictureArea&) const = default;
 };
 
 /// A checked value of a key: a switch, a whole number or choice, a number, a text, a list of
