@@ -7,7 +7,7 @@
 //   stdin            standard input of each run
 //   status           the expected exit statuses, a line a run (0)
 //   stdout, stderr   what all runs are to print, in full (nothing)
-//   stderr-pattern   a shell pattern in place of stderr
+//   stdout-pattern   a shell pattern in place of stdout; likewise stderr-pattern
 //   expected/        files that must be there afterwards, with that content
 //   expected.sha256  the same as the checksums that sha256sum prints
 //   absent           names that must not exist afterwards, one a line
@@ -80,17 +80,18 @@ void RunAll(Program& program, const fs::path& description) {
     for (const auto& arguments : Runs(description)) {
         const int status = program.Run(arguments, setting);
         const int expected = number < statuses.size() ? std::stoi(statuses[number]) : 0;
-        EXPECT_EQ(status, expected) << "of run " << ++number;
+        ++number;
+        EXPECT_EQ(status, expected) << "of run " << number;
     }
 }
 
-void ExpectOutput(const Program& program, const fs::path& description) {
-    EXPECT_EQ(program.Output(), TextOrNothing(description / "stdout"));
-    const std::string pattern = TextOrNothing(description / "stderr-pattern");
+/// Compares with the file `name` of the case, or with its pattern.
+void ExpectText(const std::string& text, const fs::path& description, const std::string& name) {
+    const std::string pattern = TextOrNothing(description / (name + "-pattern"));
     if (pattern.empty()) {
-        EXPECT_EQ(program.Errors(), TextOrNothing(description / "stderr"));
+        EXPECT_EQ(text, TextOrNothing(description / name));
     } else {
-        EXPECT_EQ(fnmatch(pattern.c_str(), program.Errors().c_str(), 0), 0) << program.Errors();
+        EXPECT_EQ(fnmatch(pattern.c_str(), text.c_str(), 0), 0) << name << ": " << text;
     }
 }
 
@@ -138,7 +139,8 @@ TEST_P(Cases, DoWhatTheirFilesSay) {
     const fs::path& description = GetParam();
     Program program(description / "files");
     RunAll(program, description);
-    ExpectOutput(program, description);
+    ExpectText(program.Output(), description, "stdout");
+    ExpectText(program.Errors(), description, "stderr");
     ExpectContents(program, description);
     ExpectLikeness(program, description);
 
