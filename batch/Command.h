@@ -52,10 +52,11 @@ class Arguments {
 /// A command of the program: everything that parsing it, running it and the help need.
 struct Command {
     std::string word;
-    std::string summary;    ///< for the help
-    std::vector<Key> keys;  ///< `replace` joins those that write a file
+    std::string summary;         ///< for the help
+    std::vector<Key> keys = {};  ///< `replace` joins those that write a file
     void (*run)(Batch&, const Arguments&);
-    bool needsAnyKey = false;  ///< makes no sense without a key
+    bool needsAnyKey = false;   ///< makes no sense without a key
+    bool needsHistory = false;  ///< steps are kept only for a script that has such a command
 };
 
 /// Every command, in the order of the help.
@@ -71,5 +72,6 @@ std::vector<Command> GeneratorCommandTable();
 std::vector<Command> EffectCommandTable();
 std::vector<Command> ElevatorCommandTable();
 std::vector<Command> PrintCommandTable();
+std::vector<Command> HistoryCommandTable();
 
 }  // namespace quillbrand

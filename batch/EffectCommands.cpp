@@ -17,7 +17,7 @@ ErosionSettings ErosionOf(const Arguments& given) {
 }
 
 void RunEffect(Batch& batch, const Arguments& given) {
-    StartEffect(batch.session,
+    StartEffect(batch.session.document, batch.session.tools, batch.session.settings,
                 {.code = given.Get<int>("name"),
                  .strength = static_cast<float>(given.Get<double>("strength")),
                  .zMin = given.Get<int>("zmin"),

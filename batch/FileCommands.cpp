@@ -24,12 +24,12 @@ void Open(Batch& batch, const Arguments& given) {
     const auto file = given.Get<std::string>("file");
     if (given.Find("as") == nullptr)
         RequireTerExtension(file);
-    if (!OpenTerrain(batch.session, file, batch.host))
+    if (!OpenTerrain(batch.session.document, batch.session.tools.LoadMemory, file, batch.host))
         throw Fault(file + " is not a Terragen terrain");
 }
 
 void Save(Batch& batch, const Arguments& given) {
-    SaveTerrain(batch.session, given.Get<std::string>("file"), given.Get<bool>("scale"),
+    SaveTerrain(batch.session.document, given.Get<std::string>("file"), given.Get<bool>("scale"),
                 batch.host);
 }
 
@@ -45,12 +45,12 @@ void Backup(Batch& batch, const Arguments& given) {
 }
 
 void Restore(Batch& batch, const Arguments& given) {
-    RestoreTerrain(batch.session, given.Get<std::string>("file"));
+    RestoreTerrain(batch.session.document, given.Get<std::string>("file"));
 }
 
 void SavePerlin(Batch& batch, const Arguments& given) {
-    SaveAsPerlinSet(batch.session, given.Get<std::string>("file"), given.Get<std::string>("name"),
-                    batch.host);
+    SaveAsPerlinSet(batch.session.document, given.Get<std::string>("file"),
+                    given.Get<std::string>("name"), batch.host);
 }
 
 }  // namespace

@@ -63,23 +63,26 @@ int PresentSize(const Session& session) {
 void Generate(Batch& batch, const Arguments& given) {
     const Value* size = given.Find("size");
     const int wanted = size == nullptr ? PresentSize(batch.session) : std::get<int>(*size);
-    ProduceTerrain(batch.session, wanted, TakeSettings(batch, given), batch.host);
+    ProduceTerrain(batch.session.document, batch.session.tools, batch.session.settings.ResizeMode,
+                   wanted, TakeSettings(batch, given), batch.host);
 }
 
 void Preview(Batch& batch, const Arguments& given) {
-    clsTerrain preview = PreviewTerrain(batch.session, TakeSettings(batch, given), batch.host);
+    clsTerrain preview =
+        PreviewTerrain(batch.session.document, batch.session.tools,
+                       batch.session.settings.ResizeMode, TakeSettings(batch, given), batch.host);
     Picture picture;
     BuildHeightPicture(picture, preview, batch.session.settings.PaletteRow, batch.host);
     picture.Save(given.Get<std::string>("file"));
 }
 
 void SaveSettings(Batch& batch, const Arguments& given) {
-    SaveGenerator(batch.session, given.Get<std::string>("file"), batch.generatorLast);
+    SaveGenerator(batch.session.tools, given.Get<std::string>("file"), batch.generatorLast);
 }
 
 void LoadSettings(Batch& batch, const Arguments& given) {
-    batch.generatorDefaults =
-        LoadGenerator(batch.session, given.Get<std::string>("file"), batch.generatorDefaults.set);
+    batch.generatorDefaults = LoadGenerator(batch.session.tools, given.Get<std::string>("file"),
+                                            batch.generatorDefaults.set);
     batch.generatorLast = batch.generatorDefaults;
 }
 

@@ -87,11 +87,19 @@ bool RunSteps(const std::vector<Step>& steps, Batch& batch, bool timings) {
     return true;
 }
 
+/// Keeping the way back costs time and memory, so only a script that takes it pays.
+HistoryMode ModeFor(const std::vector<Step>& steps) {
+    const bool isUsed =
+        std::ranges::any_of(steps, [](const Step& step) { return step.command->needsHistory; });
+    return isUsed ? HistoryMode::Steps : HistoryMode::Nothing;
+}
+
 int RunScript(const Options& options) {
     const std::vector<Step> steps = ReadSteps(options);
     RandomSource chance(options.randomSeed);
     Session session;
     SubMain(session, FindProgramFolder(PlacesOfThisProcess(options.home)), {}, chance);
+    session.document.history.Mode(ModeFor(steps));
     BatchHost host(session, chance, !options.quiet && isatty(STDERR_FILENO) == 1);
     Batch batch{.session = session, .host = host};
     return RunSteps(steps, batch, options.timings) ? allDone : commandFailed;

@@ -29,7 +29,7 @@ void Print(Batch& batch, const Arguments& given) {
         BuildHeightPicture(picture, batch.session.document.CurrentTerrain,
                            batch.session.settings.PaletteRow, batch.host);
     ReplaceFile(given.Get<std::string>("file"),
-                PrintedPdf(batch.session, picture.Image(), settings));
+                PrintedPdf(batch.session.document, picture.Image(), settings));
 }
 
 }  // namespace

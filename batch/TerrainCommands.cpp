@@ -6,8 +6,7 @@
 #include "batch/Batch.h"
 #include "batch/Deeds.h"
 #include "shell/TerrainMetres.h"
-#include "terrain/ScaleTerrainStep.h"
-#include "terrain/TerrainGuard.h"
+#include "terrain/HeightsChange.h"
 
 namespace quillbrand {
 
@@ -18,7 +17,7 @@ std::string Flag(bool set) {
 }
 
 void New(Batch& batch, const Arguments& given) {
-    ClearTerrain(batch.session, given.Get<int>("points"));
+    ClearTerrain(batch.session.document, given.Get<int>("points"));
 }
 
 std::string InMetres(const clsTerrain& terrain) {
@@ -76,27 +75,35 @@ const std::vector<Deed<clsTerrain>>& Properties() {
 }
 
 void Set(Batch& batch, const Arguments& given) {
-    clsTerrain& terrain = batch.session.document.CurrentTerrain;
-    TerrainGuard guard(terrain);
-    DoInOrder(Properties(), terrain, given);
-    guard.Commit();
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Properties");
+    DoInOrder(Properties(), document.CurrentTerrain, given);
+    change.Commit();
 }
 
 void Flat(Batch& batch, const Arguments& given) {
-    batch.session.document.CurrentTerrain.Fill(given.Get<int>("z"));
-    batch.session.document.TerrainEmpty = false;
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Flat");
+    document.CurrentTerrain.Fill(given.Get<int>("z"));
+    document.TerrainEmpty = false;
+    change.Commit();
 }
 
 void SetOnePoint(Batch& batch, const Arguments& given) {
-    batch.session.document.CurrentTerrain.SetPoint(given.Get<int>("x"), given.Get<int>("y"),
-                                                   given.Get<int>("z"));
-    batch.session.document.TerrainEmpty = false;
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Point");
+    document.CurrentTerrain.SetPoint(given.Get<int>("x"), given.Get<int>("y"), given.Get<int>("z"));
+    document.TerrainEmpty = false;
+    change.Commit();
 }
 
 void ShiftOnePoint(Batch& batch, const Arguments& given) {
-    batch.session.document.CurrentTerrain.IncrPoint(given.Get<int>("x"), given.Get<int>("y"),
-                                                    given.Get<int>("d"));
-    batch.session.document.TerrainEmpty = false;
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Shift");
+    document.CurrentTerrain.IncrPoint(given.Get<int>("x"), given.Get<int>("y"),
+                                      given.Get<int>("d"));
+    document.TerrainEmpty = false;
+    change.Commit();
 }
 
 void PrintRange(Batch& batch, const Arguments&) {
@@ -104,7 +111,7 @@ void PrintRange(Batch& batch, const Arguments&) {
 }
 
 void Scale(Batch& batch, const Arguments&) {
-    ScaleTerrainStep(batch.session.document.CurrentTerrain, batch.host);
+    ScaleHeights(batch.session.document, batch.host);
 }
 
 }  // namespace

@@ -1,23 +1,10 @@
 #include "editor/PointTexts.h"
 
-#include "base/Fault.h"
 #include "base/NumberText.h"
 #include "base/Numbers.h"
+#include "base/ShownNumber.h"
 
 namespace quillbrand {
-
-namespace {
-
-template <typename MakeText>
-std::string Shown(MakeText makeText) {
-    try {
-        return makeText();
-    } catch (const Fault&) {
-        return "?";
-    }
-}
-
-}  // namespace
 
 std::optional<std::array<std::string, 5>> PointTexts(const clsTerrain& terrain, double x,
                                                      double y) {
@@ -26,11 +13,11 @@ std::optional<std::array<std::string, 5>> PointTexts(const clsTerrain& terrain, 
         return std::nullopt;
     const int column = RoundTo32(x);
     const int row = RoundTo32(y);
-    return std::array{Shown([&] { return Format(terrain.GetPointTU(column, row), "#####.## TU"); }),
-                      Format(terrain.GetPoint(column, row), "####### Pixel"),
-                      "X=" + Format(x, "####"), "Y=" + Format(size - y, "####"), Shown([&] {
-                          return Format(terrain.GetPointMeters(column, row), "######.### m");
-                      })};
+    return std::array{
+        ShownNumber([&] { return Format(terrain.GetPointTU(column, row), "#####.## TU"); }),
+        Format(terrain.GetPoint(column, row), "####### Pixel"), "X=" + Format(x, "####"),
+        "Y=" + Format(size - y, "####"),
+        ShownNumber([&] { return Format(terrain.GetPointMeters(column, row), "######.### m"); })};
 }
 
 }  // namespace quillbrand

@@ -4,20 +4,21 @@
 #include <span>
 
 #include "effects/ColumnStrip.h"
-#include "effects/Square.h"
+#include "effects/QBFilter.h"
 
 namespace quillbrand::QBFilter {
 
-/// Calls `use` with the rows y0..y1 of each column of a square that lies in the grid, as a span to
-/// be changed, column by column from the left, and with the column's x.
+/// Calls `use` with the rows of each column of the writer's rectangle, as a span to be changed,
+/// column by column from the left, and with the column's x. It widens writer.Stored().
 template <typename Use>
-void ForEachColumn(HeightWriter& writer, int last, const Square& square, Use use) {
-    ColumnStrip strip(last, square.y0, square.y1);
-    for (int first = square.x0; first <= square.x1; first += ColumnStrip::width) {
-        const int count = std::min(ColumnStrip::width, square.x1 - first + 1);
-        strip.Load(writer, first, count);
+void ForEachColumn(HeightWriter& writer, Use use) {
+    const GridRect rect = writer.Rect();
+    ColumnStrip strip(writer.Terrain(), rect);
+    for (int first = rect.x0; first <= rect.x1; first += ColumnStrip::width) {
+        const int count = std::min(ColumnStrip::width, rect.x1 - first + 1);
+        strip.Load(writer.Terrain(), first, count);
         for (int x = first; x < first + count; ++x)
-            use(x, std::span<Height>(strip.Column(x) + 1, static_cast<std::size_t>(square.Rows())));
+            use(x, std::span<Height>(strip.Column(x) + 1, static_cast<std::size_t>(rect.Rows())));
         strip.Store(writer);
     }
 }

@@ -61,20 +61,19 @@ class Marks {
                 std::to_string(lowestOnCurve) + " to " + std::to_string(highestOnCurve));
 }
 
-/// One run of the effect over a square that lies in the grid.
+/// One run of the effect over a rectangle of the grid.
 class ElevatorPass {
   public:
     /// Throws Fault for a height within the limits that is not on the curve.
-    ElevatorPass(clsTerrain& terrain, const Area& area, const Square& square, const Marks& marks,
+    ElevatorPass(clsTerrain& terrain, const Area& area, const GridRect& rect, const Marks& marks,
                  Host& host)
-        : writer_(terrain),
-          last_(terrain.Size() + 2),
+        : terrain_(terrain),
+          writer_(terrain, rect),
           area_(area),
-          square_(square),
+          rect_(rect),
           marks_(marks),
-          host_(host) {
-        FindExtremes(RowFrom(square.y0), square.Columns(), square.Rows(), writer_.Stride(),
-                     present_);
+          host_(host),
+          present_(terrain.Measure(rect)) {
         if (!IsOnCurve(present_.low) || !IsOnCurve(present_.high))
             RequireOnCurve();
     }
@@ -87,22 +86,14 @@ class ElevatorPass {
         } else {
             ShiftColumns();
         }
-        if (stored_.low <= stored_.high)
-            writer_.Stored(stored_.low, stored_.high);
     }
 
   private:
-    Height* RowFrom(int y) { return writer_.Row(y).data() + square_.x0; }
-
     void RequireOnCurve() {
-        for (int y = square_.y0; y <= square_.y1; ++y) {
-            const std::span<const Height> row(RowFrom(y),
-                                              static_cast<std::size_t>(square_.Columns()));
-            const auto beyond = std::ranges::find_if(
-                row, [&](Height h) { return area_.Holds(h) && !IsOnCurve(h); });
-            if (beyond != row.end())
-                RefuseHeight(*beyond);
-        }
+        for (int y = rect_.y0; y <= rect_.y1; ++y)
+            for (const Height h : terrain_.Row(y, rect_))
+                if (area_.Holds(h) && !IsOnCurve(h))
+                    RefuseHeight(h);
     }
 
     void FillTable() {
@@ -113,35 +104,33 @@ class ElevatorPass {
     }
 
     Height Stored(Height h) {
-        stored_.low = std::min(stored_.low, h);
-        stored_.high = std::max(stored_.high, h);
+        writer_.Stored().Widen(h);
         return h;
     }
 
     void Report(int columnOrRow) {
-        host_.Progress(PercentOf(columnOrRow, last_ - 1));
+        host_.Progress(PercentOf(columnOrRow, terrain_.XPoints()));
         host_.Yield();
     }
 
     /// Without limits all points but those without a mark go through the table, in any order.
     void ShiftRows() {
-        gaps_.resize(static_cast<std::size_t>(square_.Columns()));
-        for (int y = square_.y0; y <= square_.y1; ++y) {
+        gaps_.resize(static_cast<std::size_t>(rect_.Columns()));
+        for (int y = rect_.y0; y <= rect_.y1; ++y) {
             Report(y);
-            Height* const row = RowFrom(y);
-            MapHeights(row, square_.Columns(), lowest_, images_.data());
-            Extremes found{INT32_MAX, INT32_MIN};
-            FindExtremes(row, square_.Columns(), 1, 0, found);
+            const auto row = writer_.UnmeasuredRow(y);
+            MapHeights(row, lowest_, images_.data());
+            Extremes found;
+            FindExtremes(row, found);
             if (found.low == noMark)
                 found.low = CollectGaps(y);
-            stored_.low = std::min(stored_.low, found.low);
-            stored_.high = std::max(stored_.high, found.high);
+            writer_.Stored().Widen(found);
         }
     }
 
     /// Remembers the points of a row that have no mark; returns the lowest of the others.
     Height CollectGaps(int y) {
-        const Height* const row = RowFrom(y);
+        const auto row = terrain_.Row(y, rect_);
         Height low = INT32_MAX;
         for (std::size_t i = 0; i < gaps_.size(); ++i) {
             if (row[i] == noMark)
@@ -156,11 +145,11 @@ class ElevatorPass {
     void CloseGaps() {
         for (std::size_t i = 0; i < gaps_.size(); ++i) {
             for (const int y : gaps_[i]) {
-                Height& gap = RowFrom(y)[i];
-                if (y > square_.y0)
-                    gap = RowFrom(y - 1)[i];
+                Height& gap = writer_.UnmeasuredRow(y)[i];
+                if (y > rect_.y0)
+                    gap = terrain_.Row(y - 1, rect_)[i];
                 else
-                    gap = i > 0 ? RowFrom(square_.y1)[i - 1] : Stored(beforeAll);
+                    gap = i > 0 ? terrain_.Row(rect_.y1, rect_)[i - 1] : Stored(beforeAll);
             }
         }
     }
@@ -168,7 +157,7 @@ class ElevatorPass {
     /// With limits, in the very order of the columns.
     void ShiftColumns() {
         Height before = beforeAll;
-        ForEachColumn(writer_, last_, square_, [&](int x, std::span<Height> column) {
+        ForEachColumn(writer_, [&](int x, std::span<Height> column) {
             Report(x);
             for (Height& h : column) {
                 if (!area_.Holds(h))
@@ -180,14 +169,13 @@ class ElevatorPass {
         });
     }
 
+    const clsTerrain& terrain_;
     HeightWriter writer_;
-    int last_;
     const Area& area_;
-    Square square_;
+    GridRect rect_;
     const Marks& marks_;
     Host& host_;
-    Extremes present_{INT32_MAX, INT32_MIN};
-    Extremes stored_{INT32_MAX, INT32_MIN};
+    Extremes present_;
     Height lowest_ = 0;
     std::vector<Height> images_;          ///< by height above the lowest
     std::vector<std::vector<int>> gaps_;  ///< for each column, the rows without a mark
@@ -234,8 +222,9 @@ void FilterElevatorShift(clsTerrain& terrain, float& /*strength*/, const Area& a
     host.Progress(0);
     host.Yield();
     const Marks marks(elevator.grid);
-    if (LiesInGrid(area, extent, terrain.Size() + 2))
-        ElevatorPass(terrain, area, CutToGrid(area, extent, terrain.Size() + 2), marks, host).Run();
+    const GridRect grid = terrain.Cells();
+    if (area.LiesIn(grid, extent))
+        ElevatorPass(terrain, area, area.CutTo(grid, extent), marks, host).Run();
     else
         ShiftPoints(terrain, area, extent, marks, host);
     host.Progress(100);

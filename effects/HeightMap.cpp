@@ -4,10 +4,12 @@
 
 namespace quillbrand::QBFilter {
 
-QB_VECTOR_CLONES void MapHeights(Height* __restrict cells, int count, Height lowest,
+QB_VECTOR_CLONES void MapHeights(std::span<Height> cells, Height lowest,
                                  const Height* __restrict images) {
-    for (int i = 0; i < count; ++i)
-        cells[i] = images[cells[i] - lowest];
+    Height* const __restrict heights = cells.data();
+    const auto count = static_cast<std::ptrdiff_t>(cells.size());
+    for (std::ptrdiff_t i = 0; i < count; ++i)
+        heights[i] = images[heights[i] - lowest];
 }
 
 }  // namespace quillbrand::QBFilter

@@ -68,16 +68,12 @@ QB_VECTOR_CLONES void DisturbSome(Height* __restrict cells, const double* __rest
 /// Noise on a square that lies in the grid, with the random numbers of a column drawn at once.
 class NoisePass {
   public:
-    NoisePass(clsTerrain& terrain, const Area& area, const Square& square, double share)
-        : writer_(terrain),
-          last_(terrain.Size() + 2),
+    NoisePass(clsTerrain& terrain, const Area& area, const GridRect& rect, double share)
+        : writer_(terrain, rect),
           area_(area),
-          square_(square),
           share_(share),
-          randoms_(static_cast<std::size_t>(square.Rows()) + 1) {
-        FindExtremes(writer_.Row(square.y0).data() + square.x0, square.Columns(), square.Rows(),
-                     writer_.Stride(), before_);
-    }
+          randoms_(static_cast<std::size_t>(rect.Rows()) + 1),
+          before_(terrain.Measure(rect)) {}
 
     /// False where a height could leave 32 bits: each then needs a check of its own.
     bool IsSafe() const {
@@ -89,15 +85,13 @@ class NoisePass {
     template <typename BeginColumn>
     void Run(RandomSource& chance, BeginColumn beginColumn) {
         const bool isLimited = !area_.Holds(before_.low) || !area_.Holds(before_.high);
-        ForEachColumn(writer_, last_, square_, [&](int x, std::span<Height> column) {
+        ForEachColumn(writer_, [&](int x, std::span<Height> column) {
             beginColumn(x);
             if (isLimited)
                 DisturbWithinLimits(column, chance);
             else
                 DisturbAll(column, chance);
         });
-        if (stored_.low <= stored_.high)
-            writer_.Stored(stored_.low, stored_.high);
     }
 
   private:
@@ -105,7 +99,7 @@ class NoisePass {
         chance.Fill(std::span(randoms_).first(column.size()));
         const auto count = static_cast<std::ptrdiff_t>(column.size());
         DisturbCells(column.data(), randoms_.data(), count, share_);
-        FindExtremes(column.data(), count, 1, 0, stored_);
+        FindExtremes(column, writer_.Stored());
     }
 
     /// Points outside the limits draw no number.
@@ -115,18 +109,15 @@ class NoisePass {
         chance.Fill(std::span(randoms_).first(static_cast<std::size_t>(within)));
         dealt_.resize(column.size());
         Deal(column.data(), count, area_, randoms_.data(), dealt_.data());
-        DisturbSome(column.data(), dealt_.data(), count, share_, area_, stored_);
+        DisturbSome(column.data(), dealt_.data(), count, share_, area_, writer_.Stored());
     }
 
     HeightWriter writer_;
-    int last_;
     const Area& area_;
-    Square square_;
     double share_;
     std::vector<double> randoms_;  ///< one more than a column has points
     std::vector<double> dealt_;
-    Extremes before_{INT32_MAX, INT32_MIN};
-    Extremes stored_{INT32_MAX, INT32_MIN};
+    Extremes before_;
 };
 
 }  // namespace
@@ -146,9 +137,9 @@ void FilterNoise(clsTerrain& terrain, float& strength, const Area& area, Host& h
         host.Chance().ReseedFromClock();
     };
     const auto run = [&] {
-        if (LiesInGrid(area, extent, terrain.Size() + 2)) {
-            const Square square = CutToGrid(area, extent, terrain.Size() + 2);
-            NoisePass pass(terrain, area, square, share);
+        const GridRect grid = terrain.Cells();
+        if (area.LiesIn(grid, extent)) {
+            NoisePass pass(terrain, area, area.CutTo(grid, extent), share);
             if (pass.IsSafe())
                 return pass.Run(host.Chance(), beginColumn);
         }

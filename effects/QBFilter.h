@@ -25,6 +25,18 @@ struct Area {
     Height zMax = 32768;
 
     bool Holds(Height h) const { return zMin < h && h < zMax; }
+
+    /// Its square with `side` for the extent, as far as `grid` has it.
+    GridRect CutTo(const GridRect& grid, int side) const {
+        return GridRect::Cut(startX, startY, std::int64_t{startX} + side,
+                             std::int64_t{startY} + side, grid);
+    }
+
+    /// True when all of that square lies in `grid`.
+    bool LiesIn(const GridRect& grid, int side) const {
+        return startX >= grid.x0 && startY >= grid.y0 && std::int64_t{startX} + side <= grid.x1 &&
+               std::int64_t{startY} + side <= grid.y1;
+    }
 };
 
 /// One effect as the panel lists it.

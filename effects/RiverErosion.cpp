@@ -10,9 +10,8 @@
 #include "base/Numbers.h"
 #include "base/VectorClones.h"
 #include "effects/QBFilter.h"
-#include "effects/Square.h"
+#include "terrain/HeightWriter.h"
 #include "terrain/ReliefPicture.h"
-#include "terrain/RowKernels.h"
 
 namespace quillbrand::QBFilter {
 
@@ -45,8 +44,10 @@ QB_VECTOR_CLONES void DivideRow(const std::uint16_t* __restrict numbers, std::pt
 }
 
 /// cells[i] grows by gains[columns[i]].
-QB_VECTOR_CLONES void Raise(Height* __restrict cells, const int* __restrict columns,
-                            std::ptrdiff_t count, const Height* __restrict gains) {
+QB_VECTOR_CLONES void Raise(std::span<Height> row, const int* __restrict columns,
+                            const Height* __restrict gains) {
+    Height* const __restrict cells = row.data();
+    const auto count = static_cast<std::ptrdiff_t>(row.size());
     for (std::ptrdiff_t i = 0; i < count; ++i)
         cells[i] += gains[columns[i]];
 }
@@ -107,12 +108,10 @@ class Gains {
 };
 
 /// Throws Fault where a height could leave 32 bits by `most`, what the picture adds at most.
-void RequireRoom(HeightWriter& terrain, const Square& square, Height most) {
-    Extremes found{0, 0};
-    FindExtremes(terrain.Row(square.y0).data() + square.x0, square.Columns(), square.Rows(),
-                 terrain.Stride(), found);
-    if (found.high > INT32_MAX - most)
-        throw Fault("the height " + std::to_string(found.high) +
+void RequireRoom(const clsTerrain& terrain, const GridRect& rect, Height most) {
+    const Height highest = terrain.Measure(rect).high;
+    if (highest > INT32_MAX - most)
+        throw Fault("the height " + std::to_string(highest) +
                     " leaves no room in 32 bits for what river erosion adds, up to " +
                     std::to_string(most));
 }
@@ -131,22 +130,16 @@ void FilterRiverErosion(clsTerrain& terrain, float& strength, const Area& area, 
         bed.ErodePictureName = RiverBed::standardPicture;
     const auto picture = LoadReliefPicture(FindInFolder(bed.programFolder, bed.ErodePictureName));
 
-    const Square square = CutToGrid(area, extent, terrain.Size() + 2);
+    const GridRect rect = area.CutTo(terrain.Cells(), extent);
     const int divisor = DivisorOf(strength);
     Gains gains(*picture, terrain.Size(), divisor);
-    const auto columns = gains.Columns(square.x0 + offset, square.Columns());
-    if (!square.IsEmpty()) {
-        HeightWriter writer(terrain);
-        RequireRoom(writer, square, std::abs(65535 / divisor) + 3);
-        Extremes stored{INT32_MAX, INT32_MIN};
-        for (int y = square.y0; y <= square.y1; ++y) {
-            Height* const cells = writer.Row(y).data() + square.x0;
-            Raise(cells, columns.data(), square.Columns(), gains.Row(std::int64_t{y} + offset));
-            FindExtremes(cells, square.Columns(), 1, 0, stored);
-            host.Progress(PercentOf(y, double{1} * extent + area.startY));
-            host.Yield();
-        }
-        writer.Stored(stored.low, stored.high);
+    const auto columns = gains.Columns(rect.x0 + offset, rect.Columns());
+    RequireRoom(terrain, rect, std::abs(65535 / divisor) + 3);
+    HeightWriter writer(terrain, rect);
+    for (int y = rect.y0; y <= rect.y1; ++y) {
+        Raise(writer.Row(y), columns.data(), gains.Row(std::int64_t{y} + offset));
+        host.Progress(PercentOf(y, double{1} * extent + area.startY));
+        host.Yield();
     }
     host.Progress(100);
     host.Yield();

@@ -7,8 +7,7 @@
 #include "base/Numbers.h"
 #include "effects/HeightMap.h"
 #include "effects/QBFilter.h"
-#include "effects/Square.h"
-#include "terrain/RowKernels.h"
+#include "terrain/HeightWriter.h"
 
 namespace quillbrand::QBFilter {
 
@@ -34,10 +33,9 @@ double GammaCurve(double f, Height h) {
     return h < 0 ? -power : power;
 }
 
-void MarkHeights(const Height* __restrict cells, int count, Height lowest,
-                 std::uint8_t* __restrict occurs) {
-    for (int i = 0; i < count; ++i)
-        occurs[cells[i] - lowest] = 1;
+void MarkHeights(std::span<const Height> cells, Height lowest, std::uint8_t* __restrict occurs) {
+    for (const Height h : cells)
+        occurs[h - lowest] = 1;
 }
 
 /// The two passes that the curves share: measure what the curve makes of the heights, then write
@@ -48,19 +46,17 @@ class TwoPasses {
     /// `isGamma`: the last column and row of the area are not measured, and between the passes the
     /// grid holds heights without their sign.
     TwoPasses(clsTerrain& terrain, const Area& area, bool isGamma, Host& host)
-        : writer_(terrain),
-          area_(area),
+        : area_(area),
           isGamma_(isGamma),
           host_(host),
           extent_(area.extent.value_or(terrain.XPoints())),
-          square_(CutToGrid(area, extent_, terrain.Size() + 2)),
-          measured_(CutToGrid(area, isGamma ? extent_ - 1 : extent_, terrain.Size() + 2)) {}
+          measured_(area.CutTo(terrain.Cells(), isGamma ? extent_ - 1 : extent_)),
+          writer_(terrain, area.CutTo(terrain.Cells(), extent_)) {}
 
     void Run(Curve curve, double f) {
         curve_ = curve;
         f_ = f;
-        if (!measured_.IsEmpty())
-            MakeTable();
+        MakeTable();
         MeasurePass();
         const double range = hi_ - lo_;
         scale_ = 65530 / (range + 1);
@@ -68,22 +64,16 @@ class TwoPasses {
         host_.Progress(50);
         FillTable();
         WritePass();
-        if (stored_.low <= stored_.high)
-            writer_.Stored(stored_.low, stored_.high);
     }
 
   private:
     /// Heights that lie further apart get no table.
     static constexpr std::int64_t widestTable = 1 << 20;
 
-    Height* RowFrom(int x, int y) { return writer_.Row(y).data() + x; }
-
     void MakeTable() {
-        Extremes found{INT32_MAX, INT32_MIN};
-        FindExtremes(RowFrom(measured_.x0, measured_.y0), measured_.Columns(), measured_.Rows(),
-                     writer_.Stride(), found);
+        const Extremes found = writer_.Terrain().Measure(measured_);
         const std::int64_t span = std::int64_t{found.high} - found.low + 1;
-        if (span > widestTable)
+        if (found.IsEmpty() || span > widestTable)
             return;
         lowest_ = found.low;
         occurs_.assign(static_cast<std::size_t>(span), 0);
@@ -99,8 +89,7 @@ class TwoPasses {
     }
 
     Height Store(Height h) {
-        stored_.low = std::min(stored_.low, h);
-        stored_.high = std::max(stored_.high, h);
+        writer_.Stored().Widen(h);
         return h;
     }
 
@@ -128,12 +117,12 @@ class TwoPasses {
     void MeasurePass() {
         for (int y = measured_.y0; y <= measured_.y1; ++y) {
             Report(y, 0);
-            const Height* const row = RowFrom(measured_.x0, y);
+            const auto row = writer_.Terrain().Row(y, measured_);
             if (!occurs_.empty())
-                MarkHeights(row, measured_.Columns(), lowest_, occurs_.data());
+                MarkHeights(row, lowest_, occurs_.data());
             else
-                for (int i = 0; i < measured_.Columns(); ++i)
-                    Measure(row[i], curve_(f_, row[i]));
+                for (const Height h : row)
+                    Measure(h, curve_(f_, h));
         }
         curves_.resize(occurs_.size());
         ForEachHeight([&](std::size_t i, Height h) {
@@ -155,17 +144,19 @@ class TwoPasses {
     }
 
     void WritePass() {
-        for (int y = square_.y0; y <= square_.y1; ++y) {
+        for (int y = writer_.Rect().y0; y <= writer_.Rect().y1; ++y) {
             Report(y, 50);
-            Height* const row = RowFrom(square_.x0, y);
-            const int measured = y <= measured_.y1 ? std::max(measured_.Columns(), 0) : 0;
+            const auto row = writer_.UnmeasuredRow(y);
+            const auto count =
+                static_cast<std::size_t>(y <= measured_.y1 ? measured_.Columns() : 0);
+            const auto measured = row.first(count);
             if (!images_.empty())
-                MapHeights(row, measured, lowest_, images_.data());
+                MapHeights(measured, lowest_, images_.data());
             else
-                for (int i = 0; i < measured; ++i)
-                    row[i] = Image(row[i], curve_(f_, row[i]));
-            for (int i = measured; i < square_.Columns(); ++i)
-                row[i] = ImageOfUnmeasured(row[i]);
+                for (Height& h : measured)
+                    h = Image(h, curve_(f_, h));
+            for (Height& h : row.subspan(count))
+                h = ImageOfUnmeasured(h);
         }
     }
 
@@ -174,13 +165,12 @@ class TwoPasses {
         host_.Yield();
     }
 
-    HeightWriter writer_;
     const Area& area_;
     bool isGamma_;
     Host& host_;
     int extent_;
-    Square square_;
-    Square measured_;
+    GridRect measured_;
+    HeightWriter writer_;
     Curve curve_ = nullptr;
     double f_ = 0;
     Height lowest_ = 0;
@@ -191,7 +181,6 @@ class TwoPasses {
     double hi_ = -100000;
     double scale_ = 0;
     double centre_ = 0;
-    Extremes stored_{INT32_MAX, INT32_MIN};
 };
 
 void Shift(clsTerrain& terrain, const Area& area, Curve curve, float f, bool isGamma, Host& host) {

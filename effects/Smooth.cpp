@@ -7,8 +7,6 @@
 #include "base/VectorClones.h"
 #include "effects/ColumnStrip.h"
 #include "effects/QBFilter.h"
-#include "effects/Square.h"
-#include "terrain/RowKernels.h"
 
 namespace quillbrand::QBFilter {
 
@@ -39,8 +37,7 @@ void SmoothPoint(const Neighbourhood& n, std::ptrdiff_t y, const Area& area, Ext
         std::int64_t{n.left[y - 1]} + n.left[y + 1] + h + n.right[y - 1] + n.right[y + 1];
     const auto mean = static_cast<Height>(RoundedFifth(s));
     n.centre[y] = mean;
-    stored.low = std::min(stored.low, mean);
-    stored.high = std::max(stored.high, mean);
+    stored.Widen(mean);
 }
 
 void SmoothColumnInOrder(const Neighbourhood& n, bool ascending, const Area& area,
@@ -91,44 +88,36 @@ QB_VECTOR_CLONES void SmoothWholeColumn(const Neighbourhood& n, const Area& area
 class Sweep {
   public:
     Sweep(clsTerrain& terrain, const Area& area, Host& host)
-        : writer_(terrain),
-          area_(area),
+        : area_(area),
           extent_(area.extent.value()),
           host_(host),
-          last_(terrain.Size() + 2),
-          square_(CutToGrid(area, extent_, last_)),
-          strip_(last_, square_.y0, square_.y1) {
-        if (!square_.IsEmpty())
-            MeasureHeights();
+          grid_(terrain.Cells()),
+          rect_(area.CutTo(grid_, extent_)),
+          writer_(terrain, rect_),
+          strip_(terrain, rect_) {
+        MeasureHeights();
     }
 
     void Run(bool forward) {
-        if (square_.IsEmpty())
-            return;
         forward_ = forward;
-        const int columns = square_.x1 - square_.x0 + 1;
+        const int columns = rect_.Columns();
         for (int done = 0; done < columns; done += ColumnStrip::width) {
             const int count = std::min(ColumnStrip::width, columns - done);
-            RunStrip(forward_ ? square_.x0 + done : square_.x1 - done - count + 1, count);
+            RunStrip(forward_ ? rect_.x0 + done : rect_.x1 - done - count + 1, count);
         }
-        if (stored_.low <= stored_.high)
-            writer_.Stored(stored_.low, stored_.high);
     }
 
   private:
     /// The extremes of all heights that a mean can take in; means never leave them.
     void MeasureHeights() {
-        const int x = std::max(square_.x0 - 1, 0);
-        const int y = std::max(square_.y0 - 1, 0);
-        Extremes found{INT32_MAX, INT32_MIN};
-        FindExtremes(writer_.Row(y).data() + x, std::min(square_.x1 + 1, last_) - x + 1,
-                     std::min(square_.y1 + 1, last_) - y + 1, writer_.Stride(), found);
+        const Extremes found = writer_.Terrain().Measure(
+            GridRect::Cut(rect_.x0 - 1, rect_.y0 - 1, rect_.x1 + 1, rect_.y1 + 1, grid_));
         isNarrow_ = found.low >= -narrow && found.high <= narrow;
         isLimited_ = !(area_.Holds(found.low) && area_.Holds(found.high));
     }
 
     void RunStrip(int first, int count) {
-        strip_.Load(writer_, first, count);
+        strip_.Load(writer_.Terrain(), first, count);
         for (int i = 0; i < count; ++i) {
             const int x = forward_ ? first + i : first + count - 1 - i;
             SmoothColumn(x);
@@ -139,14 +128,14 @@ class Sweep {
 
     void SmoothColumn(int x) {
         const Neighbourhood n{strip_.Column(std::max(x - 1, 0)), strip_.Column(x),
-                              strip_.Column(std::min(x + 1, last_)), strip_.Rows()};
-        const bool seesItself = x == 0 || x == last_;
+                              strip_.Column(std::min(x + 1, grid_.x1)), strip_.Rows()};
+        const bool seesItself = x == 0 || x == grid_.x1;
         if (seesItself || !isNarrow_)
-            SmoothColumnInOrder(n, forward_, area_, stored_);
+            SmoothColumnInOrder(n, forward_, area_, writer_.Stored());
         else if (isLimited_)
-            SmoothLimitedColumn(n, area_, stored_);
+            SmoothLimitedColumn(n, area_, writer_.Stored());
         else
-            SmoothWholeColumn(n, area_, stored_);
+            SmoothWholeColumn(n, area_, writer_.Stored());
         strip_.RenewPadding(x);
     }
 
@@ -156,17 +145,16 @@ class Sweep {
         host_.Yield();
     }
 
-    HeightWriter writer_;
     const Area& area_;
     int extent_;
     bool isNarrow_ = false;
     bool isLimited_ = true;
     bool forward_ = true;
     Host& host_;
-    int last_;
-    Square square_;
+    GridRect grid_;
+    GridRect rect_;
+    HeightWriter writer_;
     ColumnStrip strip_;
-    Extremes stored_{INT32_MAX, INT32_MIN};
 };
 
 /// Even whole numbers become odd, and the whole is limited.

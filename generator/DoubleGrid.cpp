@@ -164,8 +164,9 @@ void DoubleCellByCell(const SquareArray& grid, int n, int mode, double roughness
 void FillResult(const SquareArray& grid, int n, int mode, double roughness, SquareArray& result,
                 Host& host) {
     const auto drawn = static_cast<std::size_t>(n + 1) * static_cast<std::size_t>(n + 1);
-    Extremes found{0, 0};
-    FindExtremes(grid.Row(0), n + 2, n + 2, grid.Upper() + 1, found);
+    Extremes found;
+    for (int j = 0; j <= n + 1; ++j)
+        FindExtremes({grid.Row(j), static_cast<std::size_t>(n + 2)}, found);
     const bool isNarrow = found.low >= -narrow && found.high <= narrow;
     if (mode == Randomised || (mode == Bilinear && !isNarrow)) {
         DoubleCellByCell(grid, n, mode, roughness, result, host);

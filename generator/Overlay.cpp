@@ -9,7 +9,7 @@
 #include "base/Stdio.h"
 #include "base/VectorClones.h"
 #include "generator/GeneratorSettings.h"
-#include "terrain/RowKernels.h"
+#include "terrain/HeightWriter.h"
 
 namespace quillbrand {
 
@@ -140,17 +140,13 @@ void OverlayRelief(clsTerrain& terrain, const SquareArray& relief, int size, int
         return;
     const int last = std::min(size + 1, terrain.Size() + 2);
     const double factor = height / 100.0;
-    Extremes stored{INT32_MAX, INT32_MIN};
-    HeightWriter writer(terrain);
+    HeightWriter writer(terrain, {0, 0, last, last});
     for (int y = 0; y <= last; ++y) {
-        Height* const row = writer.Row(y).data();
-        if (!combine(row, relief.Row(y), last + 1, factor))
+        if (!combine(writer.Row(y).data(), relief.Row(y), last + 1, factor))
             ReportRow(y, mode, relief.Row(y), last + 1, factor);
-        FindExtremes(row, last + 1, 1, 0, stored);
         host.Progress(PercentOf(y, size));
         host.Yield();
     }
-    writer.Stored(stored.low, stored.high);
 }
 
 void OverlayPreview(clsTerrain& preview, const clsTerrain& current, int height, int mode) {

@@ -20,6 +20,7 @@ struct EffectRequest {
 
 /// "Start !": an effect on the whole grid. Throws Fault, with the heights as they were, for an
 /// empty terrain and what the effect cannot do.
-void StartEffect(Session& session, const EffectRequest& request, Host& host);
+void StartEffect(Document& document, Tools& tools, const Settings& settings,
+                 const EffectRequest& request, Host& host);
 
 }  // namespace quillbrand

@@ -6,15 +6,14 @@
 #include "base/NumberText.h"
 #include "base/Numbers.h"
 #include "base/Stdio.h"
+#include "terrain/HeightsChange.h"
 
 namespace quillbrand {
 
 namespace {
 
-GeneratorContext ContextOf(const Session& session) {
-    return {.sets = session.tools.PerlinSets,
-            .ResizeMode = session.settings.ResizeMode,
-            .ModifyMode = session.tools.ModifyMode};
+GeneratorContext ContextOf(const Tools& tools, int resizeMode) {
+    return {.sets = tools.PerlinSets, .ResizeMode = resizeMode, .ModifyMode = tools.ModifyMode};
 }
 
 }  // namespace
@@ -28,35 +27,38 @@ int SeedOf(const std::string& text) {
         RoundHalfEven(STDIO::ClampValue(-2147483648.0, 2147483647.0, Val(text))));
 }
 
-void ProduceTerrain(Session& session, int size, const GeneratorSettings& settings, Host& host) {
-    ProduceTerrain(session.document.CurrentTerrain, size, settings, ContextOf(session), host);
+void ProduceTerrain(Document& document, Tools& tools, int resizeMode, int size,
+                    const GeneratorSettings& settings, Host& host) {
+    HeightsChange change(document, "Produce terrain");
+    ProduceTerrain(document.CurrentTerrain, size, settings, ContextOf(tools, resizeMode), host);
     // Only now: the run itself used the mode that stood before.
-    if (settings.clearTerrain || session.document.TerrainEmpty)
-        session.tools.ModifyMode = Add;
-    session.document.TerrainEmpty = false;
+    if (settings.clearTerrain || document.TerrainEmpty)
+        tools.ModifyMode = Add;
+    document.TerrainEmpty = false;
+    change.Commit();
     host.Busy(false);
 }
 
-clsTerrain PreviewTerrain(const Session& session, const GeneratorSettings& settings, Host& host) {
-    clsTerrain preview = PreviewOf(session.document.CurrentTerrain, session.document.TerrainEmpty,
-                                   settings, ContextOf(session), host);
+clsTerrain PreviewTerrain(const Document& document, const Tools& tools, int resizeMode,
+                          const GeneratorSettings& settings, Host& host) {
+    clsTerrain preview = PreviewOf(document.CurrentTerrain, document.TerrainEmpty, settings,
+                                   ContextOf(tools, resizeMode), host);
     host.Busy(false);
     return preview;
 }
 
-GeneratorSettings LoadGenerator(Session& session, const std::filesystem::path& path,
-                                int presentRow) {
+GeneratorSettings LoadGenerator(Tools& tools, const std::filesystem::path& path, int presentRow) {
     LoadedGeneratorSettings loaded =
-        LoadGeneratorSettings(path, presentRow, session.tools.PerlinSets.ListedRows());
-    session.tools.RandomSeedValue = SeedOf(loaded.settings.seed);
-    session.tools.ModifyMode = loaded.modify;
+        LoadGeneratorSettings(path, presentRow, tools.PerlinSets.ListedRows());
+    tools.RandomSeedValue = SeedOf(loaded.settings.seed);
+    tools.ModifyMode = loaded.modify;
     return std::move(loaded.settings);
 }
 
-void SaveGenerator(const Session& session, const std::filesystem::path& path,
+void SaveGenerator(const Tools& tools, const std::filesystem::path& path,
                    GeneratorSettings settings) {
-    settings.seed = std::to_string(session.tools.RandomSeedValue);
-    SaveGeneratorSettings(path, settings, session.tools.ModifyMode);
+    settings.seed = std::to_string(tools.RandomSeedValue);
+    SaveGeneratorSettings(path, settings, tools.ModifyMode);
 }
 
 }  // namespace quillbrand

@@ -3,6 +3,7 @@
 #include "base/Fault.h"
 #include "base/NumberText.h"
 #include "base/Numbers.h"
+#include "base/ShownNumber.h"
 #include "base/Stdio.h"
 
 namespace quillbrand {
@@ -50,7 +51,20 @@ void SetScale(clsTerrain& terrain, const std::string& side) {
     terrain.ScaleT(NarrowToSingle(Val(side) / terrain.Size()));
 }
 
+std::string Shown(double number, const char* pattern) {
+    return ShownNumber([&] { return Format(number, pattern); });
+}
+
 }  // namespace
+
+LandscapeFields FieldsOf(const clsTerrain& terrain) {
+    const double scale = terrain.ScaleT();
+    return {.spacing = Shown(STDIO::ClampValue(1.0, 100.0, scale), "#####.###"),
+            .texts = {.side = Shown(terrain.Size() * scale, "######0"),
+                      .lowest = Shown(terrain.MinTU() * scale, "#######0"),
+                      .highest = Shown(terrain.MaxTU() * scale, "#######0")},
+            .radius = Shown(terrain.CRAD(), "#####0")};
+}
 
 std::string LimitedRadius(const std::string& text) {
     std::string limited = text;

@@ -20,6 +20,15 @@ struct LandscapeTexts {
     std::string highest;
 };
 
+/// What the fields show of a terrain; "?" for a number that is too large to show.
+struct LandscapeFields {
+    std::string spacing;  ///< metres from point to point, limited to 1..100
+    LandscapeTexts texts;
+    std::string radius;  ///< of the planet, kilometres
+};
+
+LandscapeFields FieldsOf(const clsTerrain& terrain);
+
 /// What a new side length leaves alone.
 enum class KeepHeights { InUnits, InMetres };
 

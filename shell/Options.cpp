@@ -20,38 +20,41 @@ int ShownSizeIndex(const std::string& optTer) {
 
 }  // namespace
 
-OptionsSettings LoadOptions(const Session& session) {
-    const IniFile file = IniFile::Read(session.settings.IniPath);
+OptionsSettings LoadOptions(const Settings& stored) {
+    const IniFile file = IniFile::Read(stored.IniPath);
     return {.terrainSizeIndex = ShownSizeIndex(file.Get("Start", "OptTer")),
-            .ResizeMode = session.settings.ResizeMode,
-            .PaletteRow = session.settings.PaletteRow,
-            .BackColor = session.settings.BackColor,
+            .ResizeMode = stored.ResizeMode,
+            .PaletteRow = stored.PaletteRow,
+            .BackColor = stored.BackColor,
+            .historyMegabytes = stored.historyMegabytes,
             .terragenFolder = file.Get("terragen", "directory"),
             .objectFolder = file.Get("objects", "directory"),
             .terrainFolder = file.Get("terrain", "directory")};
 }
 
-void SaveOptions(Session& session, const OptionsSettings& settings) {
-    IniFile file = IniFile::Read(session.settings.IniPath);
+void SaveOptions(Settings& stored, const OptionsSettings& settings) {
+    IniFile file = IniFile::Read(stored.IniPath);
     file.Set("Start", "OptTer", Str(settings.terrainSizeIndex));
     file.Set("Start", "optzoom", Str(settings.ResizeMode));
     file.Set("Start", "color", Str(settings.PaletteRow));
     if (settings.BackColor)
         file.Set("Start", "BackColor", Str(*settings.BackColor));
-    file.Write(session.settings.IniPath);
-    session.settings.ResizeMode = settings.ResizeMode;
-    session.settings.PaletteRow = settings.PaletteRow;
+    file.Set("History", "Megabytes", Str(settings.historyMegabytes));
+    file.Write(stored.IniPath);
+    stored.historyMegabytes = settings.historyMegabytes;
+    stored.ResizeMode = settings.ResizeMode;
+    stored.PaletteRow = settings.PaletteRow;
     if (settings.BackColor)
-        session.settings.BackColor = settings.BackColor;
+        stored.BackColor = settings.BackColor;
 }
 
-std::string WriteFolder(const Session& session, const std::string& section,
+std::string WriteFolder(const Settings& stored, const std::string& section,
                         const std::string& path) {
     if (path.size() > mostOfAValue)
         throw Fault("the path has " + std::to_string(path.size()) +
                     " characters; the settings hold at most " + std::to_string(mostOfAValue) +
                     ": " + path);
-    return vbConfig::WriteIni(session, section, "directory", path);
+    return vbConfig::WriteIni(stored, section, "directory", path);
 }
 
 }  // namespace quillbrand

@@ -14,6 +14,7 @@ struct OptionsSettings {
     int ResizeMode = 0;        ///< 1 bilinear, 2 pixel repetition; 0 before one was ever chosen
     int PaletteRow = 0;
     std::optional<Colour> BackColor = {};  ///< of the window; without one its key stays as it is
+    int historyMegabytes = Settings::standardHistoryMegabytes;
     std::string terragenFolder = {};  ///< the three folders are shown only: WriteFolder stores them
     std::string objectFolder = {};
     std::string terrainFolder = {};
@@ -22,17 +23,17 @@ struct OptionsSettings {
 /// The settings as the dialog opens with them. A stored terrain size of 2048 shows as 512, so that
 /// storing the settings as they are shown makes it 512. Throws Fault for a file that cannot be
 /// read.
-OptionsSettings LoadOptions(const Session& session);
+OptionsSettings LoadOptions(const Settings& stored);
 
-/// Stores all but the folders, in one replacement of the settings file; then the session takes
+/// Stores all but the folders, in one replacement of the settings file; then `stored` takes
 /// them over, but for the terrain size, which is for the next start. Throws Fault, with file and
-/// session as they were.
-void SaveOptions(Session& session, const OptionsSettings& settings);
+/// `stored` as they were.
+void SaveOptions(Settings& stored, const OptionsSettings& settings);
 
 /// Stores the folder of the section "Terragen", "Objects" or "Terrain" at once and returns what a
 /// text box is to show. Throws Fault, with the file as it was, also for a path that the settings
 /// cannot hold.
-std::string WriteFolder(const Session& session, const std::string& section,
+std::string WriteFolder(const Settings& stored, const std::string& section,
                         const std::string& path);
 
 }  // namespace quillbrand

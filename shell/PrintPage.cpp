@@ -120,9 +120,9 @@ void PaintLine(QPainter& painter, const QString& line, double y, double points, 
 }
 
 /// The text stays above `bottom`: on low paper it becomes smaller.
-void PaintText(QPainter& painter, const Session& session, double firstLine, double width,
+void PaintText(QPainter& painter, const Document& document, double firstLine, double width,
                double bottom) {
-    const auto lines = PageLines(session);
+    const auto lines = PageLines(document);
     const double points = firstLine + static_cast<double>(lines.size() - 1) * size;
     const double shrink = std::min(1.0, bottom / (points * unitsPerPoint * lineHeight));
     painter.save();
@@ -148,13 +148,13 @@ void PaintPicture(QPainter& painter, const QImage& picture, const QSizeF& paper,
     painter.drawImage(QRectF(QPointF(pictureX, y), target), picture);
 }
 
-void PaintCopy(QPainter& painter, const Sheet& sheet, const Session& session, const QImage& picture,
-               const PrintSettings& settings, bool isFirst) {
+void PaintCopy(QPainter& painter, const Sheet& sheet, const Document& document,
+               const QImage& picture, const PrintSettings& settings, bool isFirst) {
     const QSizeF& paper = sheet.paper;
     const double pictureY = paper.height() / 4;
     UsePageUnits(painter, sheet);
     if (settings.settings)
-        PaintText(painter, session, isFirst ? firstSize : size, paper.width() - 2 * originX,
+        PaintText(painter, document, isFirst ? firstSize : size, paper.width() - 2 * originX,
                   settings.terrain ? pictureY - gap : paper.height() - 2 * originY);
     if (settings.terrain)
         PaintPicture(painter, picture, paper, pictureY);
@@ -172,8 +172,8 @@ void RemoveDate(QByteArray& pdf) {
 
 }  // namespace
 
-std::array<std::string, 14> PageLines(const Session& session) {
-    const clsTerrain& terrain = session.document.CurrentTerrain;
+std::array<std::string, 14> PageLines(const Document& document) {
+    const clsTerrain& terrain = document.CurrentTerrain;
     const std::string points = std::to_string(terrain.YPoints());
     const double width = terrain.YPoints() * double{terrain.ScaleT()};
     const std::string rule(53, '_');
@@ -182,7 +182,7 @@ std::array<std::string, 14> PageLines(const Session& session) {
             "  ",
             "                              Settings on Terrain",
             "    ",
-            "Name :" + session.document.CurrentFile,
+            "Name :" + document.CurrentFile,
             "    ",
             "Size           :" + points + " x " + points + " Pixel",
             "Height Scale   : " + PlainText(terrain.ScaleT()) + " m",
@@ -193,7 +193,7 @@ std::array<std::string, 14> PageLines(const Session& session) {
             rule};
 }
 
-void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Session& session,
+void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Document& document,
                const QImage& picture, const PrintSettings& settings) {
     if (settings.settings && QFontDatabase::families().isEmpty())
         throw Fault("there is no font to print with");
@@ -202,14 +202,14 @@ void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Session& session,
         const bool begun = painter.isActive() ? device.newPage() : painter.begin(&device);
         if (!begun)
             throw Fault("the printer does not take the page");
-        PaintCopy(painter, SheetOf(device, painter), session, picture, settings, copy == 1);
+        PaintCopy(painter, SheetOf(device, painter), document, picture, settings, copy == 1);
         const bool ends = copyAs == CopyAs::Job || copy == settings.copies;
         if (ends && !painter.end())
             throw Fault("the printer did not finish the page");
     }
 }
 
-QImage PagePicture(const Session& session, const QImage& picture, const PrintSettings& settings,
+QImage PagePicture(const Document& document, const QImage& picture, const PrintSettings& settings,
                    const QPageLayout& paper, QSize room) {
     const QSizeF whole = PaperOf(paper);
     QImage page(whole.scaled(room, Qt::KeepAspectRatio).toSize(), QImage::Format_RGB32);
@@ -217,7 +217,7 @@ QImage PagePicture(const Session& session, const QImage& picture, const PrintSet
     QPainter painter(&page);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const Sheet sheet{whole, {}, {whole.width() / page.width(), whole.height() / page.height()}};
-    PaintCopy(painter, sheet, session, picture, settings, true);
+    PaintCopy(painter, sheet, document, picture, settings, true);
     return page;
 }
 
@@ -225,7 +225,7 @@ QPageLayout WholeA4() {
     return {QPageSize(QPageSize::A4), QPageLayout::Portrait, {}};
 }
 
-Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSettings& settings,
+Bytes PrintedPdf(const Document& document, const QImage& picture, const PrintSettings& settings,
                  const QPageLayout& paper) {
     const FontSystem fonts;
     QByteArray content;
@@ -237,7 +237,7 @@ Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSetti
         writer.setTitle(QStringLiteral("Terrain and Settings"));
         writer.setCreator(QStringLiteral("Quillbrand " QB_VERSION));
         writer.setPageLayout(paper);
-        PrintPage(writer, CopyAs::Page, session, picture, settings);
+        PrintPage(writer, CopyAs::Page, document, picture, settings);
     }
     RemoveDate(content);
     const auto bytes =

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "base/Files.h"
-#include "shell/Session.h"
+#include "terrain/Document.h"
 
 class QPagedPaintDevice;
 
@@ -26,18 +26,18 @@ enum class CopyAs {
 };
 
 /// The lines of the settings text, from top to bottom.
-std::array<std::string, 14> PageLines(const Session& session);
+std::array<std::string, 14> PageLines(const Document& document);
 
 /// Prints the page on `device`, once for each copy. `picture` is the height picture as it stands
 /// on the screen; it takes half of the paper's shorter side, whatever its points. Paper and margins
 /// are the device's. Requires a QGuiApplication, for the fonts. Throws Fault when the device fails;
 /// the copies before that one are printed.
-void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Session& session,
+void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Document& document,
                const QImage& picture, const PrintSettings& settings);
 
 /// The page of the first copy on white, as large as `room` allows: what `paper` will look like.
 /// Requires a QGuiApplication.
-QImage PagePicture(const Session& session, const QImage& picture, const PrintSettings& settings,
+QImage PagePicture(const Document& document, const QImage& picture, const PrintSettings& settings,
                    const QPageLayout& paper, QSize room);
 
 /// A4 paper, upright, without margins.
@@ -45,7 +45,7 @@ QPageLayout WholeA4();
 
 /// The page as a PDF file, with a page for each copy; nothing without copies. A program without
 /// windows needs no QGuiApplication of its own for this.
-Bytes PrintedPdf(const Session& session, const QImage& picture, const PrintSettings& settings,
+Bytes PrintedPdf(const Document& document, const QImage& picture, const PrintSettings& settings,
                  const QPageLayout& paper = WholeA4());
 
 }  // namespace quillbrand

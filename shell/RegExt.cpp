@@ -1,5 +1,6 @@
 #include "shell/RegExt.h"
 
+#include <QElapsedTimer>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QStandardPaths>
@@ -19,6 +20,7 @@ namespace fs = std::filesystem;
 constexpr auto desktopTool = "update-desktop-database";
 constexpr auto mimeTool = "update-mime-database";
 constexpr int toolTime = 60'000;  // milliseconds
+constexpr int waitTime = 20;      // milliseconds
 
 /// A folder of the user, as the XDG base directory rules say; only absolute paths count.
 fs::path UserFolder(const char* variable, const char* belowHome) {
@@ -81,16 +83,30 @@ std::string DesktopEntry(const std::string& product, const std::string& command)
            std::string(terrainType) + ";\n";
 }
 
+using Wait = std::function<void()>;
+
+bool WaitForEnd(QProcess& process, const Wait& wait) {
+    QElapsedTimer time;
+    time.start();
+    while (!process.waitForFinished(waitTime)) {
+        if (process.state() == QProcess::NotRunning || time.hasExpired(toolTime))
+            return false;
+        if (wait)
+            wait();
+    }
+    return true;
+}
+
 /// A tool of the desktop that makes its list of the files in `folder` anew. That there is none is
 /// well: such a desktop reads the files themselves.
-void RunTool(const char* name, const fs::path& folder) {
+void RunTool(const char* name, const fs::path& folder, const Wait& wait) {
     const QString tool = QStandardPaths::findExecutable(QString::fromLatin1(name));
     if (tool.isEmpty())
         return;
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(tool, {QString::fromStdString(folder.string())});
-    const bool ended = process.waitForFinished(toolTime);
+    const bool ended = WaitForEnd(process, wait);
     if (!ended || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
         throw Fault(std::string(name) + " failed: " +
                     (ended ? process.readAll().trimmed() : process.errorString()).toStdString());
@@ -98,7 +114,7 @@ void RunTool(const char* name, const fs::path& folder) {
 
 void Register(FileUndo& undo, const fs::path& data, const std::string& extension,
               const std::string& description, const std::string& product,
-              const std::string& command) {
+              const std::string& command, const Wait& wait) {
     const fs::path config = UserFolder("XDG_CONFIG_HOME", ".config");
     const std::string name = LowerCase(product);
 
@@ -107,16 +123,16 @@ void Register(FileUndo& undo, const fs::path& data, const std::string& extension
     IniFile defaults = IniFile::Read(config / "mimeapps.list");
     defaults.Set("Default Applications", terrainType, name + ".desktop");
     undo.Write(config / "mimeapps.list", defaults.Text());
-    RunTool(desktopTool, data / "applications");
-    RunTool(mimeTool, data / "mime");
+    RunTool(desktopTool, data / "applications", wait);
+    RunTool(mimeTool, data / "mime", wait);
 }
 
 /// After files were put back: lists that were made in between would name what is gone. What fails
 /// now has been told of already.
-void ForgetListed(const fs::path& data) {
-    const auto renew = [](const char* tool, const fs::path& folder) {
+void ForgetListed(const fs::path& data, const Wait& wait) {
+    const auto renew = [&wait](const char* tool, const fs::path& folder) {
         try {
-            RunTool(tool, folder);
+            RunTool(tool, folder, wait);
         } catch (const Fault&) {
             return;
         }
@@ -144,13 +160,13 @@ std::string ExecOf(const std::string& path) {
 }
 
 bool RegisterExtension(const std::string& extension, const std::string& description,
-                       const std::string& product, const std::string& command,
-                       std::string* reason) {
+                       const std::string& product, const std::string& command, std::string* reason,
+                       const std::function<void()>& wait) {
     try {
         const fs::path data = UserFolder("XDG_DATA_HOME", ".local/share");
-        auto forget = qScopeGuard([&] { ForgetListed(data); });
+        auto forget = qScopeGuard([&] { ForgetListed(data, wait); });
         FileUndo undo;
-        Register(undo, data, extension, description, product, command);
+        Register(undo, data, extension, description, product, command, wait);
         undo.Commit();
         forget.dismiss();
         return true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 /// Which program the desktop opens terrain files with.
@@ -18,10 +19,11 @@ constexpr auto terrainType = "application/x-terragen-terrain";
 ///
 /// with the product in lower case, and has the desktop's tools take them in where they exist.
 /// True when all of it worked; otherwise every file is as it was and `reason`, where given, tells
-/// the user why. The same call again changes nothing.
+/// the user why. The same call again changes nothing. The tools may take their time: `wait`, where
+/// given, is called again and again meanwhile.
 bool RegisterExtension(const std::string& extension, const std::string& description,
                        const std::string& product, const std::string& command,
-                       std::string* reason = nullptr);
+                       std::string* reason = nullptr, const std::function<void()>& wait = {});
 
 /// The value of "Exec" in a desktop entry that runs the program at `path` on one file. Throws Fault
 /// for a path that the desktop cannot run.

@@ -8,8 +8,8 @@
 #include "base/Files.h"
 #include "shell/TerrainCommands.h"
 #include "shell/vbConfig.h"
+#include "terrain/HeightsChange.h"
 #include "terrain/TerWriter.h"
-#include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
 
@@ -19,28 +19,28 @@ constexpr auto selectFolder = "Please select Folder of Terragen in 'Options'";
 constexpr auto startFailed = "ERROR  Terragen";
 constexpr auto defaultFile = "default.ter";
 
-void SaveFirst(Session& session, Host& host, const std::function<void()>& saveUnnamed) {
-    if (session.document.CurrentFile != Document::noFile) {
-        SaveCurrentFile(session, host);
+void SaveFirst(Document& document, Host& host, const std::function<void()>& saveUnnamed) {
+    if (document.CurrentFile != Document::noFile) {
+        SaveCurrentFile(document, host);
     } else {
         saveUnnamed();
-        if (session.document.CurrentFile == Document::noFile) {
+        if (document.CurrentFile == Document::noFile) {
             host.Busy(false);
             throw Fault("Terragen not called", "Submit Terragen");
         }
     }
-    session.document.TerrainSaved = true;
+    document.TerrainSaved = true;
 }
 
 /// Gives a document without a file one, so that there is something to hand over.
-void SaveDefault(Session& session, Host& host) {
-    if (session.document.CurrentFile != Document::noFile)
+void SaveDefault(Document& document, Host& host) {
+    if (document.CurrentFile != Document::noFile)
         return;
     host.Busy(false);
-    TerrainGuard guard(session.document.CurrentTerrain);
-    SaveT(session.document.CurrentTerrain, defaultFile, host, OldTail::Drop);
-    guard.Commit();
-    session.document.CurrentFile = defaultFile;
+    HeightsChange change(document, "Terragen");
+    SaveT(document.CurrentTerrain, defaultFile, host, OldTail::Drop);
+    document.CurrentFile = defaultFile;
+    change.Commit();
 }
 
 bool Start(const QString& program, const QStringList& arguments) {
@@ -76,21 +76,22 @@ void StartRenderer(const std::filesystem::path& folder, const std::string& file)
     throw Fault(selectFolder + reason, startFailed);
 }
 
-void StartTerragen(Session& session, Host& host, const std::function<void()>& saveUnnamed) {
-    if (session.document.TerrainEmpty)
+void StartTerragen(Document& document, const Settings& settings, Host& host,
+                   const std::function<void()>& saveUnnamed) {
+    if (document.TerrainEmpty)
         throw Fault("Terrain empty !", "Save");
-    const Answer answer = host.Ask({"Terrain save, before start terragen", "Start Terragen",
-                                    Buttons::YesNoCancel, QuestionId::SaveFirst});
-    const std::string folder = vbConfig::ReadIni(session, "Terragen", "directory");
+    const Answer answer =
+        host.Ask({"Terrain save, before start terragen", "Start Terragen", Buttons::YesNoCancel, QuestionId::SaveFirst});
+    const std::string folder = vbConfig::ReadIni(settings, "Terragen", "directory");
     if (folder.empty())
         throw Fault(selectFolder, "Start Terragen");
     if (answer == Answer::Cancel)
         return;
     if (answer == Answer::Yes)
-        SaveFirst(session, host, saveUnnamed);
+        SaveFirst(document, host, saveUnnamed);
     else
-        SaveDefault(session, host);
-    StartRenderer(folder, session.document.CurrentFile);
+        SaveDefault(document, host);
+    StartRenderer(folder, document.CurrentFile);
 }
 
 }  // namespace quillbrand

@@ -14,9 +14,10 @@ namespace quillbrand {
 /// `default.ter` in the current folder; Cancel does nothing.
 ///
 /// `saveUnnamed` saves a document without a file as TER under a name that it asks for; where the
-/// session has none afterwards, the user did not want one. What ends the command is a Fault with
+/// document has none afterwards, the user did not want one. What ends the command is a Fault with
 /// the title of its message; the document may be saved by then.
-void StartTerragen(Session& session, Host& host, const std::function<void()>& saveUnnamed);
+void StartTerragen(Document& document, const Settings& settings, Host& host,
+                   const std::function<void()>& saveUnnamed);
 
 /// Starts the program `terragen.exe`, else `terragen`, of `folder` with "-t" and `file`, each an
 /// argument of its own. What the system cannot run itself but is an `.exe` goes through `wine`.

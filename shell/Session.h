@@ -25,6 +25,10 @@ struct Settings {
     int ResizeMode = 0;
     int PaletteRow = 0;
     std::optional<Colour> BackColor;  ///< of the window, where the settings tell one
+    int historyMegabytes = standardHistoryMegabytes;
+
+    static constexpr int standardHistoryMegabytes = 256;
+    static constexpr int mostHistoryMegabytes = 16384;
 };
 
 /// What the tools and the dialogs remember from one use to the next.

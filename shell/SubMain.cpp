@@ -41,6 +41,10 @@ void ReadSettings(Session& session) {
     const std::string backColor = settings.Get("Start", "BackColor");
     if (!backColor.empty() && Val(backColor) >= 0)
         session.settings.BackColor = StartNumber(settings, "BackColor", 0xffffff);
+    const std::string megabytes = settings.Get("History", "Megabytes");
+    if (!megabytes.empty())
+        session.settings.historyMegabytes = static_cast<int>(
+            std::clamp<double>(RoundHalfEven(Val(megabytes)), 0, Settings::mostHistoryMegabytes));
     const std::string setFile = settings.Get("ELEVATOR", "Name");
     session.tools.elevator.ElevatorSetFile = FindInFolder(
         session.settings.ProgramFolder, setFile.empty() ? Elevator::defaultSetFile : setFile);

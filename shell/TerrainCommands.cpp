@@ -3,41 +3,43 @@
 #include "base/Fault.h"
 #include "generator/PerlinSetFile.h"
 #include "terrain/Backup.h"
+#include "terrain/HeightsChange.h"
 #include "terrain/ScaleTerrainStep.h"
 #include "terrain/TerWriter.h"
-#include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
 
 namespace {
 
-void Save(Session& session, const std::filesystem::path& path, bool scale, OldTail tail,
+void Save(Document& document, const std::filesystem::path& path, bool scale, OldTail tail,
           Host& host) {
-    if (session.document.TerrainEmpty)
+    if (document.TerrainEmpty)
         throw Fault("Terrain empty !", "Save");
     host.Busy(true);
     host.Status("Save Terrainfile...");
     host.Yield();
-    clsTerrain& terrain = session.document.CurrentTerrain;
-    TerrainGuard guard(terrain);
+    HeightsChange change(document, "Save");
     if (scale)
-        ScaleTerrainStep(terrain, host);
-    SaveT(terrain, path, host, tail);
-    guard.Commit();
-    session.document.CurrentFile = path.string();
-    session.document.TerrainSaved = true;
+        ScaleTerrainStep(document.CurrentTerrain, host);
+    SaveT(document.CurrentTerrain, path, host, tail);
+    document.CurrentFile = path.string();
+    document.MarkSaved();
+    change.Commit();
     host.Busy(false);
 }
 
 }  // namespace
 
-void NewTerrain(Session& session) {
-    session.document.CurrentTerrain.Init(session.document.CurrentTerrain.XPoints());
-    session.document.TerrainEmpty = true;
+void NewTerrain(Document& document) {
+    HeightsChange change(document, "New");
+    document.CurrentTerrain.Init(document.CurrentTerrain.XPoints());
+    document.TerrainEmpty = true;
+    change.Commit();
 }
 
-void ClearTerrain(Session& session, int points) {
-    clsTerrain& terrain = session.document.CurrentTerrain;
+void ClearTerrain(Document& document, int points) {
+    HeightsChange change(document, "Clear Terrain");
+    clsTerrain& terrain = document.CurrentTerrain;
     terrain.Init(points);
     try {
         terrain.MinTU(-10);
@@ -47,27 +49,35 @@ void ClearTerrain(Session& session, int points) {
         terrain.HeightScale(40);
         terrain.BaseHeight(10);
     }
-    session.document.TerrainEmpty = true;
-    session.document.CurrentFile = Document::noFile;
+    document.TerrainEmpty = true;
+    document.CurrentFile = Document::noFile;
+    change.Commit();
 }
 
-bool OpenTerrain(Session& session, const std::filesystem::path& path, Host& host) {
+bool OpenTerrain(Document& document, mTerLoad::Memory& memory, const std::filesystem::path& path,
+                 Host& host) {
     host.Status("Load Terrainfile...");
     host.Yield();
-    const bool isTer = mTerLoad::LoadTerrain(path, session.document.CurrentTerrain,
-                                             session.tools.LoadMemory, host);
-    session.document.CurrentFile = path.string();
-    session.tools.ViewZoom = 1.0;
-    session.document.TerrainEmpty = false;
+    HeightsChange change(document, "Open");
+    const bool isTer = mTerLoad::LoadTerrain(path, document.CurrentTerrain, memory, host);
+    document.CurrentFile = path.string();
+    document.TerrainEmpty = false;
+    change.Commit();
     return isTer;
 }
 
-void SaveTerrain(Session& session, const std::filesystem::path& path, bool scale, Host& host) {
-    Save(session, path, scale, OldTail::Drop, host);
+void SaveTerrain(Document& document, const std::filesystem::path& path, bool scale, Host& host) {
+    Save(document, path, scale, OldTail::Drop, host);
 }
 
-void SaveCurrentFile(Session& session, Host& host) {
-    Save(session, session.document.CurrentFile, true, OldTail::Keep, host);
+void SaveCurrentFile(Document& document, Host& host) {
+    Save(document, document.CurrentFile, true, OldTail::Keep, host);
+}
+
+void ScaleHeights(Document& document, Host& host) {
+    HeightsChange change(document, "Optimized");
+    ScaleTerrainStep(document.CurrentTerrain, host);
+    change.Commit();
 }
 
 void BackupTerrain(Session& session, const std::filesystem::path& path) {
@@ -75,26 +85,30 @@ void BackupTerrain(Session& session, const std::filesystem::path& path) {
     session.BackupExists = true;
 }
 
-void RestoreTerrain(Session& session, const std::filesystem::path& path) {
-    LoadBackup(session.document.CurrentTerrain, path);
-    session.document.CurrentTerrain.Range();
-    session.document.TerrainEmpty = false;
+void RestoreTerrain(Document& document, const std::filesystem::path& path) {
+    HeightsChange change(document, "Restore Terrain");
+    LoadBackup(document.CurrentTerrain, path);
+    document.CurrentTerrain.Range();
+    document.TerrainEmpty = false;
+    change.Commit();
 }
 
-std::filesystem::path BackupPath(const Session& session) {
-    return session.settings.ProgramFolder / "Backup.qbt";
+std::filesystem::path BackupPath(const Settings& settings) {
+    return settings.ProgramFolder / "Backup.qbt";
 }
 
 void RemoveBackup(const Session& session) {
+    if (!session.BackupExists)
+        return;
     std::error_code ignored;
-    std::filesystem::remove(BackupPath(session), ignored);
+    std::filesystem::remove(BackupPath(session.settings), ignored);
 }
 
-void SaveAsPerlinSet(Session& session, const std::filesystem::path& path, const std::string& name,
+void SaveAsPerlinSet(Document& document, const std::filesystem::path& path, const std::string& name,
                      Host& host) {
-    TerrainGuard guard(session.document.CurrentTerrain);
-    SavePerlinSet(session.document.CurrentTerrain, path, name, host);
-    guard.Commit();
+    HeightsChange change(document, "Save as Perlin set");
+    SavePerlinSet(document.CurrentTerrain, path, name, host);
+    change.Commit();
 }
 
 }  // namespace quillbrand

@@ -5,15 +5,15 @@
 
 namespace quillbrand::vbConfig {
 
-std::string ReadIni(const Session& session, const std::string& section, const std::string& key) {
-    return IniFile::Read(session.settings.IniPath).Get(section, key);
+std::string ReadIni(const Settings& settings, const std::string& section, const std::string& key) {
+    return IniFile::Read(settings.IniPath).Get(section, key);
 }
 
-std::string WriteIni(const Session& session, const std::string& section, const std::string& key,
+std::string WriteIni(const Settings& settings, const std::string& section, const std::string& key,
                      const std::string& value) {
-    IniFile file = IniFile::Read(session.settings.IniPath);
+    IniFile file = IniFile::Read(settings.IniPath);
     file.Set(section, key, value);
-    file.Write(session.settings.IniPath);
+    file.Write(settings.IniPath);
     return TrimIni(value);
 }
 

@@ -1,7 +1,5 @@
 #include "terrain/Backup.h"
 
-#include <algorithm>
-#include <cstring>
 #include <string>
 
 #include "base/ByteBuffer.h"
@@ -49,12 +47,7 @@ void DecodeBackup(clsTerrain& terrain, std::span<const std::byte> bytes, const s
     CheckScales(header.ScaleZ, header.CRAD, name);
     const std::size_t side = Side(header);
     const auto cells = reader.At(TerHeader::bytes, sizeof(Height) * side * side);
-
-    terrain.SetHeader(header);
-    HeightWriter writer(terrain);
-    for (std::size_t y = 0; y < side; ++y)
-        std::memcpy(writer.Row(static_cast<int>(y)).data(),
-                    cells.data() + sizeof(Height) * side * y, sizeof(Height) * side);
+    terrain.Restore(header, cells);
 }
 
 }  // namespace quillbrand

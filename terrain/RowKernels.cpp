@@ -7,31 +7,25 @@
 
 namespace quillbrand {
 
-QB_VECTOR_CLONES void FindExtremes(const std::int32_t* cells, std::ptrdiff_t count,
-                                   std::ptrdiff_t rows, std::ptrdiff_t stride, Extremes& found) {
+QB_VECTOR_CLONES void FindExtremes(std::span<const std::int32_t> cells, Extremes& found) {
     std::int32_t low = found.low;
     std::int32_t high = found.high;
-    for (std::ptrdiff_t y = 0; y < rows; ++y, cells += stride) {
-        for (std::ptrdiff_t x = 0; x < count; ++x) {
-            low = std::min(low, cells[x]);
-            high = std::max(high, cells[x]);
-        }
+    for (const std::int32_t cell : cells) {
+        low = std::min(low, cell);
+        high = std::max(high, cell);
     }
     found = {low, high};
 }
 
-QB_VECTOR_CLONES void StretchRows(std::int32_t* cells, std::ptrdiff_t count, std::ptrdiff_t rows,
-                                  std::ptrdiff_t stride, double factor, double centre,
-                                  Extremes& stored) {
+QB_VECTOR_CLONES void StretchRow(std::span<std::int32_t> cells, double factor, double centre,
+                                 Extremes& stored) {
     std::int32_t low = stored.low;
     std::int32_t high = stored.high;
-    for (std::ptrdiff_t y = 0; y < rows; ++y, cells += stride) {
-        for (std::ptrdiff_t x = 0; x < count; ++x) {
-            const auto z = static_cast<std::int32_t>(std::rint(factor * (cells[x] - centre)));
-            cells[x] = z;
-            low = std::min(low, z);
-            high = std::max(high, z);
-        }
+    for (std::int32_t& cell : cells) {
+        const auto z = static_cast<std::int32_t>(std::rint(factor * (cell - centre)));
+        cell = z;
+        low = std::min(low, z);
+        high = std::max(high, z);
     }
     stored = {low, high};
 }
@@ -56,8 +50,7 @@ QB_VECTOR_CLONES void WidenSamples(const std::int16_t* samples, std::ptrdiff_t c
         high = std::max(high, samples[i]);
     }
     if (count > 0)
-        stored = {std::min<std::int32_t>(stored.low, low),
-                  std::max<std::int32_t>(stored.high, high)};
+        stored.Widen({low, high});
 }
 
 }  // namespace quillbrand

@@ -2,23 +2,18 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
+
+#include "terrain/Extremes.h"
 
 namespace quillbrand {
 
-/// Least and greatest of what a pass met.
-struct Extremes {
-    std::int32_t low;
-    std::int32_t high;
-};
-
-/// Widens `found` by `rows` rows of `count` cells that start `stride` cells apart.
-void FindExtremes(const std::int32_t* cells, std::ptrdiff_t count, std::ptrdiff_t rows,
-                  std::ptrdiff_t stride, Extremes& found);
+/// Widens `found` by the cells.
+void FindExtremes(std::span<const std::int32_t> cells, Extremes& found);
 
 /// Every cell becomes factor * (cell - centre), rounded to nearest, halves to even; the results
 /// must fit into 32 bits. Widens `stored` by them.
-void StretchRows(std::int32_t* cells, std::ptrdiff_t count, std::ptrdiff_t rows,
-                 std::ptrdiff_t stride, double factor, double centre, Extremes& stored);
+void StretchRow(std::span<std::int32_t> cells, double factor, double centre, Extremes& stored);
 
 /// Cells to 16-bit samples. Returns false, with `samples` in any state, when one does not fit.
 bool NarrowCells(const std::int32_t* cells, std::ptrdiff_t count, std::int16_t* samples);

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "terrain/HeightWriter.h"
 #include "terrain/RowKernels.h"
 #include "terrain/TerFormat.h"
 
@@ -91,14 +92,12 @@ void StoreTer(const TerContent& content, clsTerrain& terrain) {
     const auto rowBytes = sizeof(std::int16_t) * static_cast<std::size_t>(content.points);
     const std::byte* place = content.samples.data();
     std::vector<std::int16_t> row(static_cast<std::size_t>(content.points));
-    Extremes stored{INT32_MAX, INT32_MIN};
-    HeightWriter writer(terrain);
+    HeightWriter writer(terrain, terrain.Points());
     for (int y = terrain.Size(); y >= 0; --y, place += rowBytes) {
         // Through a row of our own, because samples may start at an odd place.
         std::memcpy(row.data(), place, rowBytes);
-        WidenSamples(row.data(), content.points, writer.Row(y).data(), stored);
+        WidenSamples(row.data(), content.points, writer.UnmeasuredRow(y).data(), writer.Stored());
     }
-    writer.Stored(stored.low, stored.high);
 }
 
 }  // namespace quillbrand

@@ -1,11 +1,15 @@
 #include "terrain/clsTerrain.h"
 
+#include <cassert>
 #include <cmath>
+#include <cstring>
 #include <string>
 
 #include "base/Fault.h"
 #include "base/Numbers.h"
+#include "terrain/ColumnKernels.h"
 #include "terrain/HeightWindow.h"
+#include "terrain/HeightWriter.h"
 #include "terrain/RowKernels.h"
 
 namespace quillbrand {
@@ -13,8 +17,7 @@ namespace quillbrand {
 namespace {
 
 /// Where a search for extremes starts from.
-constexpr Height searchedLow = 4000000;
-constexpr Height searchedHigh = -4000000;
+constexpr Extremes searched{4000000, -4000000};
 
 double Ratio(double part, double whole, const char* what) {
     if (whole == 0)
@@ -26,8 +29,7 @@ double Ratio(double part, double whole, const char* what) {
 
 clsTerrain::clsTerrain() {
     Init(257);
-    maxZ_ = -63366;
-    minZ_ = 65535;
+    extremes_ = {65535, -63366};
 }
 
 void clsTerrain::Init(std::int64_t points) {
@@ -42,8 +44,7 @@ void clsTerrain::Init(std::int64_t points) {
         cells_ = GridBuffer<Height>(count, 0);
     side_ = side;
     Size(points - 1);
-    maxZ_ = -400000;
-    minZ_ = 400000;
+    extremes_ = {400000, -400000};
 }
 
 void clsTerrain::Size(std::int64_t value) {
@@ -54,10 +55,19 @@ void clsTerrain::Size(std::int64_t value) {
     header_.XPoints = header_.YPoints = NarrowTo16(value + 1);
 }
 
-void clsTerrain::SetHeader(const TerHeader& header) {
+void clsTerrain::Restore(const TerHeader& header, std::span<const std::byte> cells) {
     Init(std::int64_t{header.Size} + 1);
     header_ = header;
     Size(header.Size);
+    assert(cells.size() == sizeof(Height) * cells_.size());
+    std::memcpy(cells_.data(), cells.data(), sizeof(Height) * cells_.size());
+}
+
+void clsTerrain::Values(const TerrainValues& values) {
+    assert(values.header.Size >= 0 && values.header.Size + 3 <= side_);
+    header_ = values.header;
+    extremes_ = values.extremes;
+    fixHeight_ = values.FixHeight;
 }
 
 int clsTerrain::MaxTU() const {
@@ -153,27 +163,42 @@ void clsTerrain::IncrPoint(int x, int y, Height d) {
         return;
     Height& cell = cells_[Index(x, y)];
     cell = NarrowTo32(std::int64_t{cell} + d);
-    Widen(d, d);
+    extremes_.Widen(d);
 }
 
 void clsTerrain::Fill(Height z) {
     std::fill_n(cells_.data(), cells_.size(), z);
-    minZ_ = std::min(searchedLow, z);
-    maxZ_ = std::max(searchedHigh, z);
+    extremes_ = searched;
+    extremes_.Widen(z);
 }
 
 std::int64_t clsTerrain::Range() {
-    return std::int64_t{GetExtremes(1)} - minZ_;
+    return std::int64_t{GetExtremes(1)} - min();
 }
 
 Height clsTerrain::GetExtremes(int mode) {
-    Extremes found{searchedLow, searchedHigh};
-    FindExtremes(cells_.data(), XPoints(), XPoints(), side_, found);
-    minZ_ = found.low;
-    maxZ_ = found.high;
+    extremes_ = searched;
+    extremes_.Widen(Measure(Points()));
     if (mode == 1)
-        return maxZ_;
-    return mode == 2 ? minZ_ : 0;
+        return max();
+    return mode == 2 ? min() : 0;
+}
+
+Extremes clsTerrain::Measure(const GridRect& rect) const {
+    assert(Cells().Contains(rect));
+    Extremes found;
+    if (!rect.IsEmpty())
+        for (int y = rect.y0; y <= rect.y1; ++y)
+            FindExtremes(Row(y, rect), found);
+    return found;
+}
+
+void clsTerrain::LoadColumns(const GridRect& rect, std::span<Height> columns,
+                             std::ptrdiff_t length) const {
+    assert(Cells().Contains(rect) && HoldColumns(columns.size(), rect, length));
+    if (!rect.IsEmpty())
+        RowsToColumns(cells_.data() + Index(rect.x0, rect.y0), side_, rect.Rows(), rect.Columns(),
+                      columns.data(), length);
 }
 
 std::int64_t clsTerrain::ScaleTerrain() {
@@ -186,31 +211,31 @@ std::int64_t clsTerrain::ScaleTerrain() {
     }
     const std::int64_t span = Range();
     const bool fullOrFlat = span == 65534 || span == 0;
-    const bool in16Bits = minZ_ >= INT16_MIN && maxZ_ <= INT16_MAX;
+    const bool in16Bits = min() >= INT16_MIN && max() <= INT16_MAX;
     if (!fullOrFlat || !in16Bits) {
         if (!fixHeight_) {
             const double units = HeightScale() / 65536.0;
-            SetWindow(static_cast<float>(minZ_ * units + BaseHeight()),
-                      static_cast<float>(maxZ_ * units + BaseHeight()));
+            SetWindow(static_cast<float>(min() * units + BaseHeight()),
+                      static_cast<float>(max() * units + BaseHeight()));
         }
         const double factor = fullOrFlat ? 1.0 : 65535.0 / static_cast<double>(span + 1);
-        StretchTo(factor, maxZ_ - static_cast<double>(span) / 2);
+        StretchTo(factor, max() - static_cast<double>(span) / 2);
     }
     if (fixHeight_) {
         SetPoint(1, 1, first);
         SetPoint(1, 2, second);
         return Range();
     }
-    return std::int64_t{maxZ_} - minZ_;
+    return std::int64_t{max()} - min();
 }
 
 /// Every cell becomes round(factor * (cell - centre)), and the extremes are true afterwards. One
 /// row and one column of the margin are taken in; their cells may lie anywhere.
 void clsTerrain::StretchTo(double factor, double centre) {
-    Extremes stored{searchedLow, searchedHigh};
-    StretchRows(cells_.data(), XPoints(), XPoints(), side_, factor, centre, stored);
-    minZ_ = stored.low;
-    maxZ_ = stored.high;
+    extremes_ = searched;
+    for (int y = 0; y < YPoints(); ++y)
+        StretchRow({cells_.data() + Index(0, y), static_cast<std::size_t>(XPoints())}, factor,
+                   centre, extremes_);
     const auto stretchMargin = [&](int x, int y) {
         Height& cell = cells_[Index(x, y)];
         const double z = RoundHalfEven(factor * (cell - centre));
@@ -234,12 +259,11 @@ SquareArray clsTerrain::GetTerrain() const {
 }
 
 void clsTerrain::SetTerrain(const SquareArray& array) {
-    HeightWriter writer(*this);
+    assert(array.Upper() >= Size() + 2);
+    HeightWriter writer(*this, Cells());
     for (int y = 0; y <= Size() + 2; ++y) {
         const auto row = writer.Row(y);
         std::copy_n(array.Row(y), row.size(), row.begin());
-        const auto [low, high] = std::minmax_element(row.begin(), row.end());
-        writer.Stored(*low, *high);
     }
 }
 

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
 #include "base/GridMemory.h"
 #include "base/RandomSource.h"
+#include "terrain/Extremes.h"
+#include "terrain/GridRect.h"
 #include "terrain/HeightWindow.h"
 #include "terrain/TerHeader.h"
 
@@ -13,6 +17,13 @@ namespace quillbrand {
 
 /// A raw height. -32768..32767 spans the height window; work in hand may leave that range.
 using Height = std::int32_t;
+
+/// What a terrain holds beside its cells.
+struct TerrainValues {
+    TerHeader header;
+    Extremes extremes;  ///< the running ones
+    bool FixHeight = false;
+};
 
 /// A square grid of raw heights with the header values of its file, and the only code that touches
 /// that memory. Grid indices run from 0 to Size() + 2 in both directions: 0..Size() is the terrain,
@@ -65,8 +76,8 @@ class clsTerrain {
     void Size(std::int64_t value);
 
     /// The running extremes. SetPoint widens them, Range makes them true.
-    Height min() const { return minZ_; }
-    Height max() const { return maxZ_; }
+    Height min() const { return extremes_.low; }
+    Height max() const { return extremes_.high; }
 
     /// Metres to a raw height difference and back. Fault where ScaleT or HeightScale is 0.
     float getMeter2Pixel(float metres) const;
@@ -87,7 +98,7 @@ class clsTerrain {
         if (!InGrid(x, y))
             return;
         cells_[Index(x, y)] = z;
-        Widen(z, z);
+        extremes_.Widen(z);
     }
 
     /// Adds d to the cell. The running extremes are widened by d itself, not by the new height, so
@@ -139,28 +150,44 @@ class clsTerrain {
     const TerHeader& Header() const { return header_; }
     void FillHeaderTags() { header_.FillTags(); }
 
-    /// Takes over a record, its size included: a new grid of that size, all 0. Fault as in Init.
-    void SetHeader(const TerHeader& header);
+    /// Takes over a record, its size included, and all cells with their margin, 32 bits each, in
+    /// the order of the memory. The running extremes are as after Init. Fault as in Init. Requires:
+    /// as many bytes as the size asks for.
+    void Restore(const TerHeader& header, std::span<const std::byte> cells);
 
-    /// Row y with its margin, Size() + 3 cells; 0 <= y <= Size() + 2.
-    std::span<const Height> Row(int y) const {
-        return {cells_.data() + Index(0, y), static_cast<std::size_t>(header_.Size + 3)};
+    /// Everything beside the cells. Requires, in what is written: a size that the grid holds.
+    TerrainValues Values() const { return {header_, extremes_, fixHeight_}; }
+    void Values(const TerrainValues& values);
+
+    /// Every cell, margin included; and the terrain alone.
+    GridRect Cells() const { return {0, 0, header_.Size + 2, header_.Size + 2}; }
+    GridRect Points() const { return {0, 0, header_.Size, header_.Size}; }
+
+    /// For passes that read: row y with its margin, and its part in `rect`; the extremes of a
+    /// rectangle, none for an empty one. Requires: what is asked for lies in Cells(). A pass that
+    /// writes holds a HeightWriter.
+    std::span<const Height> Row(int y) const { return Row(y, Cells()); }
+    std::span<const Height> Row(int y, const GridRect& rect) const {
+        assert(InGrid(rect.x0, y) && InGrid(rect.x1, y));
+        return {cells_.data() + Index(rect.x0, y), static_cast<std::size_t>(rect.Columns())};
     }
+    Extremes Measure(const GridRect& rect) const;
+
+    /// Turns a rectangle of the grid into columns: (x, y) becomes
+    /// columns[(x - rect.x0) * length + y - rect.y0]. Requires: length is at least rect.Rows().
+    void LoadColumns(const GridRect& rect, std::span<Height> columns, std::ptrdiff_t length) const;
 
   private:
     friend class HeightWriter;
 
     std::size_t Index(int x, int y) const {
+        assert(InGrid(x, y));
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(side_) +
                static_cast<std::size_t>(x);
     }
     bool InGrid(int x, int y) const {
         const auto last = static_cast<unsigned>(header_.Size + 2);
         return static_cast<unsigned>(x) <= last && static_cast<unsigned>(y) <= last;
-    }
-    void Widen(Height low, Height high) {
-        minZ_ = std::min(minZ_, low);
-        maxZ_ = std::max(maxZ_, high);
     }
 
     /// mode 1 returns the maximum, 2 the minimum, any other 0; all make the extremes true.
@@ -174,41 +201,8 @@ class clsTerrain {
     TerHeader header_;
     int side_ = 0;  ///< cells per side of the grid; Size() + 3 never exceeds it
     GridBuffer<Height> cells_;
-    Height maxZ_ = 0;
-    Height minZ_ = 0;
+    Extremes extremes_;  ///< the running ones, MinZ and MaxZ
     bool fixHeight_ = false;
-};
-
-/// Write access for a pass over whole rows. The pass tells the extremes of what it stored; the
-/// running extremes of the terrain take them in when the writer goes.
-class HeightWriter {
-  public:
-    explicit HeightWriter(clsTerrain& terrain) : terrain_(terrain) {}
-    HeightWriter(const HeightWriter&) = delete;
-    HeightWriter& operator=(const HeightWriter&) = delete;
-    ~HeightWriter() {
-        if (low_ <= high_)
-            terrain_.Widen(low_, high_);
-    }
-
-    /// Row y with its margin, Size() + 3 cells; 0 <= y <= Size() + 2.
-    std::span<Height> Row(int y) {
-        return {terrain_.cells_.data() + terrain_.Index(0, y),
-                static_cast<std::size_t>(terrain_.Size() + 3)};
-    }
-
-    /// Cells from one row to the next.
-    std::ptrdiff_t Stride() const { return terrain_.side_; }
-
-    void Stored(Height low, Height high) {
-        low_ = std::min(low_, low);
-        high_ = std::max(high_, high);
-    }
-
-  private:
-    clsTerrain& terrain_;
-    Height low_ = INT32_MAX;
-    Height high_ = INT32_MIN;
 };
 
 }  // namespace quillbrand

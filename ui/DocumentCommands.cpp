@@ -15,7 +15,7 @@ constexpr int typeTer = 1;
 /// The folder for the next start. That it cannot be written must not make a save fail.
 void RememberFolder(QWidget* window, const Session& session) {
     RunStep(window, QStringLiteral("Options"), [&] {
-        vbConfig::WriteIni(session, "Terrain", "Directory",
+        vbConfig::WriteIni(session.settings, "Terrain", "Directory",
                            session.settings.TerrainDirectory.string());
     });
 }
@@ -37,7 +37,7 @@ bool DocumentCommands::AskToClear() {
 void DocumentCommands::Neu() {
     if (!AskToClear())
         return;
-    NewTerrain(workplace_.TheSession());
+    NewTerrain(workplace_.TheSession().document);
     workplace_.RebuildPicture();
 }
 
@@ -45,7 +45,7 @@ void DocumentCommands::Loeschen() {
     if (!AskToClear())
         return;
     Session& session = workplace_.TheSession();
-    ClearTerrain(session, session.document.CurrentTerrain.XPoints());
+    ClearTerrain(session.document, session.document.CurrentTerrain.XPoints());
     workplace_.RebuildPicture();
 }
 
@@ -60,7 +60,8 @@ bool DocumentCommands::Oeffnen() {
 }
 
 bool DocumentCommands::Open(const std::filesystem::path& path) {
-    OpenTerrain(workplace_.TheSession(), path, workplace_.TheHost());
+    OpenTerrain(workplace_.TheSession().document, workplace_.TheSession().tools.LoadMemory, path,
+                workplace_.TheHost());
     ShowTerrain(0);
     return true;
 }
@@ -77,7 +78,7 @@ bool DocumentCommands::Speichern() {
     if (RefuseEmpty())
         return false;
     if (session.document.CurrentFile != Document::noFile)
-        SaveCurrentFile(session, workplace_.TheHost());
+        SaveCurrentFile(session.document, workplace_.TheHost());
     else
         FileSave(0);
     session.document.TerrainSaved = true;
@@ -117,14 +118,14 @@ bool DocumentCommands::FileSave(int type) {
     host.Busy(false);
     if (!chosen)
         return false;
-    SaveTerrain(session, chosen->path, true, host);
+    SaveTerrain(session.document, chosen->path, true, host);
     host.ActualScreen();
     return true;
 }
 
 void DocumentCommands::Backup() {
     Session& session = workplace_.TheSession();
-    BackupTerrain(session, BackupPath(session));
+    BackupTerrain(session, BackupPath(session.settings));
 }
 
 bool DocumentCommands::Restore() {
@@ -136,11 +137,34 @@ bool DocumentCommands::Restore() {
                  QStringLiteral("Restore Terrain"));
         return false;
     }
-    RestoreTerrain(session, BackupPath(session));
+    RestoreTerrain(session.document, BackupPath(session.settings));
     workplace_.ResizePicture();
     workplace_.TheHost().ActualScreen();
     workplace_.RebuildPicture();
     return true;
+}
+
+void DocumentCommands::Undo() {
+    Document& document = workplace_.TheSession().document;
+    const int size = document.CurrentTerrain.Size();
+    document.Undo();
+    ShowStep(size);
+}
+
+void DocumentCommands::Redo() {
+    Document& document = workplace_.TheSession().document;
+    const int size = document.CurrentTerrain.Size();
+    document.Redo();
+    ShowStep(size);
+}
+
+/// Zoom and view stay, but for what another size of the grid asks for.
+void DocumentCommands::ShowStep(int sizeBefore) {
+    if (workplace_.TheSession().document.CurrentTerrain.Size() != sizeBefore)
+        workplace_.ResizePicture();
+    workplace_.ShowFixHeight();
+    workplace_.RebuildPicture();
+    workplace_.TheHost().ActualScreen();
 }
 
 bool DocumentCommands::MayExit() {

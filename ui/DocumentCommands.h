@@ -32,6 +32,10 @@ class DocumentCommands {
     void Backup();
     bool Restore();
 
+    /// The last step taken back, or done again.
+    void Undo();
+    void Redo();
+
     /// The question at the exit. False when the program must go on.
     bool MayExit();
 
@@ -39,6 +43,7 @@ class DocumentCommands {
     bool AskToClear();
     bool RefuseEmpty();
     void ShowTerrain(double zoomFactor);
+    void ShowStep(int sizeBefore);
 
     Workplace& workplace_;
 };

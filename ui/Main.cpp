@@ -8,7 +8,7 @@ int main(int argc, char** argv) {
         std::fputs(arguments.answer.c_str(), stdout);
         return 0;
     }
-    if (!quillbrand::HasDisplay()) {
+    if (!quillbrand::HasDisplay(argc, argv)) {
         std::fputs("quillbrand: there is no display to open a window on\n", stderr);
         return 1;
     }

@@ -29,7 +29,7 @@
 #include "ui/dialogs/frmAbout.h"
 #include "ui/dialogs/frmElevator.h"
 #include "ui/frmTer.h"
-#include "ui/plan/PictureBox.h"
+#include "ui/plan/PlanView.h"
 
 namespace quillbrand {
 namespace {
@@ -93,11 +93,12 @@ void TakeDialogs(frmTer& window, Session& session, WindowHost& host,
     photographer.Take(elevator, "elevator-set");
     GeneratorSettings settings;
     settings.seed = "500500";
-    clsTerrain terrain = PreviewTerrain(session, settings, host);
+    clsTerrain terrain = PreviewTerrain(session.document, session.tools,
+                                        session.settings.ResizeMode, settings, host);
     dlgPreview preview(&window);
     preview.ShowHeights(terrain, 5, host);
     photographer.Take(preview, "preview");
-    dlgPrint print(window, window.findChild<PictureBox*>("Picture1")->grab().toImage());
+    dlgPrint print(window, window.findChild<PlanView*>()->PrintPicture());
     photographer.Take(print, "print");
 }
 
@@ -131,7 +132,8 @@ void TakeAll(const QString& folder, const std::string& programFolder, bool dark)
     settings.seed = "314159";
     settings.finerStructures = true;
     settings.clearTerrain = true;
-    ProduceTerrain(session, 1024, settings, host);
+    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 1024, settings,
+                   host);
     window.ResizePicture();
     window.RebuildPicture();
     host.Busy(false);

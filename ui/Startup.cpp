@@ -49,7 +49,11 @@ StartArguments ParseArguments(int argc, char** argv) {
     return arguments;
 }
 
-bool HasDisplay() {
+bool HasDisplay(int argc, char** argv) {
+    // The toolkit may be told of a platform that needs none.
+    for (int i = 1; i < argc; ++i)
+        if (std::string_view(argv[i]) == "-platform" || std::string_view(argv[i]) == "--platform")
+            return true;
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         if (qEnvironmentVariableIsSet(name))
             return true;

@@ -13,8 +13,8 @@ struct StartArguments {
 /// Needs no display. Words that are no option make one path together, blanks included.
 StartArguments ParseArguments(int argc, char** argv);
 
-/// Whether there is anything to open a window on.
-bool HasDisplay();
+/// Whether there is anything to open a window on, by the environment or the toolkit's own options.
+bool HasDisplay(int argc, char** argv);
 
 /// Runs the editor to its end; returns the exit status.
 int RunEditor(int& argc, char** argv);

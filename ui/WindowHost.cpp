@@ -1,6 +1,10 @@
 #include "ui/WindowHost.h"
 
 #include <QCoreApplication>
+#include <QTimer>
+#include <QWidget>
+#include <cassert>
+#include <utility>
 
 #include "ui/dialogs/Messages.h"
 
@@ -20,6 +24,21 @@ void WindowHost::Attach(QWidget* window, std::function<void(const std::string&)>
     keepInputOut_ = std::move(keepInputOut);
 }
 
+void WindowHost::WhenIdle(std::function<void()> action) {
+    waiting_.push_back(std::move(action));
+    if (!commandRuns_)
+        QTimer::singleShot(0, window_, [this] { RunWaiting(); });
+}
+
+/// What an action starts may let events through, and so come here again.
+void WindowHost::RunWaiting() {
+    while (!commandRuns_ && !waiting_.empty()) {
+        const auto action = std::move(waiting_.front());
+        waiting_.erase(waiting_.begin());
+        action();
+    }
+}
+
 void WindowHost::Status(std::string_view text) {
     showStatus_(std::string(text));
 }
@@ -33,6 +52,8 @@ void WindowHost::Busy(bool busy) {
 void WindowHost::Yield() {
     if (sincePump_.elapsed() < pumpEveryMs)
         return;
+    if (commandRuns_)
+        keepInputOut_();
     QCoreApplication::processEvents();
     sincePump_.restart();
 }
@@ -43,6 +64,17 @@ void WindowHost::ActualScreen() {
 
 Answer WindowHost::Ask(const Question& question) {
     return AskUser(window_, question);
+}
+
+CommandScope::CommandScope(WindowHost& host) : host_(host) {
+    assert(!host.commandRuns_);
+    host_.commandRuns_ = true;
+}
+
+CommandScope::~CommandScope() {
+    host_.commandRuns_ = false;
+    if (!host_.waiting_.empty())
+        QTimer::singleShot(0, host_.window_, [host = &host_] { host->RunWaiting(); });
 }
 
 }  // namespace quillbrand

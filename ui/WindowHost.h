@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 #include <functional>
+#include <vector>
 
 #include "shell/SessionHost.h"
 
@@ -10,17 +11,25 @@ class QWidget;
 namespace quillbrand {
 
 /// The editor's host: status texts go to the window, questions become message boxes, and pending
-/// events are let through about every 10 milliseconds.
+/// events are let through about every 10 milliseconds. It knows whether a command runs, which is
+/// what keeps everything else out: the busy flag of the session only tells what is shown.
 class WindowHost : public SessionHost {
   public:
     WindowHost(Session& session, RandomSource& chance) : SessionHost(session, chance) {
         sincePump_.start();
     }
 
-    /// The window that shows the status, is brought into line, keeps input out while the busy flag
-    /// is set, and owns the message boxes.
+    /// The window that shows the status, is brought into line, keeps input out while a command lets
+    /// events through, and owns the message boxes.
     void Attach(QWidget* window, std::function<void(const std::string&)> showStatus,
                 std::function<void()> actualScreen, std::function<void()> keepInputOut);
+
+    /// True from the first line of a command to its last, questions and dialogs included.
+    bool CommandRuns() const { return commandRuns_; }
+
+    /// Has the event loop call `action` as soon as no command runs, in the order in which actions
+    /// came.
+    void WhenIdle(std::function<void()> action);
 
     void Status(std::string_view text) override;
     void Busy(bool busy) override;
@@ -29,11 +38,29 @@ class WindowHost : public SessionHost {
     Answer Ask(const Question& question) override;
 
   private:
+    friend class CommandScope;
+
+    void RunWaiting();
+
     QWidget* window_ = nullptr;
     std::function<void(const std::string&)> showStatus_ = [](const std::string&) {};
     std::function<void()> actualScreen_ = [] {};
     std::function<void()> keepInputOut_ = [] {};
     QElapsedTimer sincePump_;
+    bool commandRuns_ = false;
+    std::vector<std::function<void()>> waiting_;
+};
+
+/// A command runs as long as this lives. Requires: none runs yet.
+class CommandScope {
+  public:
+    explicit CommandScope(WindowHost& host);
+    CommandScope(const CommandScope&) = delete;
+    CommandScope& operator=(const CommandScope&) = delete;
+    ~CommandScope();
+
+  private:
+    WindowHost& host_;
 };
 
 }  // namespace quillbrand

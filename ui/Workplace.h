@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "base/Host.h"
 #include "shell/Session.h"
+#include "ui/WindowHost.h"
 
 class QWidget;
 
@@ -16,7 +16,7 @@ class Workplace {
     virtual ~Workplace() = default;
 
     virtual Session& TheSession() = 0;
-    virtual Host& TheHost() = 0;
+    virtual WindowHost& TheHost() = 0;
     virtual QWidget* Window() = 0;
 
     /// Back to the plan view (`OptXYView_Click`).
@@ -28,11 +28,8 @@ class Workplace {
     /// `BuildHeightPicture` into the plan view.
     virtual void RebuildPicture() = 0;
 
-    /// The size that is ticked among the terrain's grid points, or nothing.
-    virtual std::optional<int> ChosenSize() = 0;
-
-    /// The generator's seed as its text stands.
-    virtual std::string SeedText() = 0;
+    /// Shows the terrain's "fix Height" after it came from elsewhere than its check box.
+    virtual void ShowFixHeight() = 0;
 };
 
 }  // namespace quillbrand

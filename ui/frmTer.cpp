@@ -12,27 +12,20 @@
 
 #include "base/NumberText.h"
 #include "base/Stdio.h"
-#include "editor/HeightPicture.h"
 #include "editor/Palette.h"
-#include "editor/PointTexts.h"
-#include "editor/View.h"
-#include "shell/RendererLink.h"
 #include "shell/TerrainCommands.h"
+#include "terrain/HeightsChange.h"
 #include "ui/StatusPanels.h"
 #include "ui/Theme.h"
 #include "ui/Toolbar1.h"
 #include "ui/controls/Controls.h"
 #include "ui/dialogs/Messages.h"
-#include "ui/dialogs/dlgOptions.h"
-#include "ui/dialogs/dlgPrint.h"
-#include "ui/dialogs/dlgSavePerlinsetNew.h"
-#include "ui/dialogs/frmAbout.h"
 #include "ui/panels/EditPanel.h"
 #include "ui/panels/EffectsPanel.h"
 #include "ui/panels/GeneratorPanel.h"
 #include "ui/panels/GlobalPanel.h"
 #include "ui/panels/ObjectsPanel.h"
-#include "ui/plan/PictureBox.h"
+#include "ui/plan/PlanView.h"
 #include "ui/plan/ToolStrip.h"
 #include "ui/plan/ZViewPanel.h"
 
@@ -42,6 +35,8 @@ namespace {
 
 /// Room around the picture.
 constexpr int pictureMargin = 20;
+
+constexpr int messageMs = 10'000;
 
 QColor ColorOf(Colour colour) {
     return {colour & 255, (colour >> 8) & 255, (colour >> 16) & 255};
@@ -75,23 +70,20 @@ frmTer::~frmTer() = default;
 
 void frmTer::ConnectParts() {
     connect(Timer1_, &QTimer::timeout, this, &frmTer::Timer1_Timer);
-    connect(toolbar_, &Toolbar1::ButtonClick, this, &frmTer::Toolbar1_ButtonClick);
     connect(OptXYView_, &QRadioButton::clicked, this, &frmTer::ShowPlanView);
     connect(optZView_, &QRadioButton::clicked, this, &frmTer::ShowZView);
-    connect(Picture1_, &PictureBox::MouseMove, this, &frmTer::Picture1_MouseMove);
-    connect(Picture1_, &PictureBox::DoubleClicked, this, &frmTer::Picture1_DblClick);
+    connect(planView_, &PlanView::PanelText, sBar_, &StatusPanels::SetPanel);
     connect(PicZ_, &ZViewPanel::Reopen, this, &frmTer::ShowZView);
     auto* redraw = new QShortcut(QKeySequence(Qt::Key_F5), this);
-    connect(redraw, &QShortcut::activated, this, &frmTer::Picture1_DblClick);
+    connect(redraw, &QShortcut::activated, planView_, &PlanView::Redraw);
     connect(SSTab1_, &QTabWidget::currentChanged, this, [this] { ShowSwatch(); });
-    openDropped_ = new QTimer(this);
-    openDropped_->setSingleShot(true);
-    connect(openDropped_, &QTimer::timeout, this, [this] { OpenFile(dropped_); });
     connect(PicZ_, &ZViewPanel::Leave, this, &frmTer::ShowPlanView);
-    connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, this, &frmTer::Picture1_MouseMove);
+    connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, planView_, &PlanView::ShowPoint);
 }
 
 bool frmTer::Form_Load() {
+    session_.document.history.Mode(HistoryMode::Steps);
+    session_.document.history.Megabytes(session_.settings.historyMegabytes);
     session_.document.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
     if (session_.settings.BackColor)
@@ -108,7 +100,7 @@ bool frmTer::Form_Load() {
         return false;
     }
     generatorPanel_->LoadPerlinList();
-    Picture1_->SetBackColor(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
+    planView_->SetBackColor(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
     ShowSwatch();
     if (!session_.StartFile.empty())
         OpenFile(session_.StartFile);
@@ -125,29 +117,18 @@ void frmTer::ShowPlanView() {
 }
 
 void frmTer::ResizePicture(double factor) {
-    const int size = session_.document.CurrentTerrain.Size();
-    session_.tools.ViewZoom = NextZoom(session_.tools.ViewZoom, factor, size, PictureLimit());
     ShowPlanView();
-    const int side = PictureSide(session_.tools.ViewZoom, size);
-    Picture1_->setFixedSize(side, side);
-    Picture1_->SetUnits(size);
-    globalPanel_->TickSize(size);
-    sBar_->SetPanel(1, ZoomText(session_.tools.ViewZoom, size));
+    planView_->Resize(factor, PictureLimit());
+    globalPanel_->TickSize(session_.document.CurrentTerrain.Size());
     ActualScreen();
 }
 
 void frmTer::RebuildPicture() {
-    BuildHeightPicture(Picture1_->Raster(), session_.document.CurrentTerrain,
-                       session_.settings.PaletteRow, host_);
-    Picture1_->update();
+    planView_->Rebuild();
 }
 
-std::optional<int> frmTer::ChosenSize() {
-    return globalPanel_->ChosenSize();
-}
-
-std::string frmTer::SeedText() {
-    return generatorPanel_->SeedText();
+void frmTer::ShowFixHeight() {
+    globalPanel_->ShowFixHeight();
 }
 
 void frmTer::UpdateTitle() {
@@ -170,8 +151,23 @@ void frmTer::ActualScreen() {
     for (const char* key : {"Speichern", "SpeichernAls", "Print", "Backup"})
         toolbar_->EnableButton(QString::fromUtf8(key), hasTerrain);
     toolbar_->EnableButton(QStringLiteral("Restore"), session_.BackupExists);
+    ShowHistory();
     effectsPanel_->Refresh();
     generatorPanel_->Refresh();
+}
+
+void frmTer::ShowHistory() {
+    const History& history = session_.document.history;
+    const auto show = [this](const QString& key, bool can, const std::string& name) {
+        toolbar_->EnableButton(key, can);
+        toolbar_->Button(key)->setToolTip(
+            can ? key + QStringLiteral(": ") + QString::fromStdString(name) : key);
+    };
+    show(QStringLiteral("Undo"), history.CanUndo(), history.NameOfUndo());
+    show(QStringLiteral("Redo"), history.CanRedo(), history.NameOfRedo());
+    if (history.LostHistory())
+        sBar_->showMessage(QStringLiteral("Not enough memory: nothing before can be undone"),
+                           messageMs);
 }
 
 void frmTer::EnableInput(bool enable) {
@@ -180,7 +176,7 @@ void frmTer::EnableInput(bool enable) {
     // Whoever works by keyboard goes on where the command was started.
     if (!enable)
         focusBefore_ = focusWidget();
-    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, Picture1_, PicZ_,
+    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, planView_, PicZ_,
                                                          OptXYView_, optZView_})
         part->setEnabled(enable);
     if (enable && focusBefore_ != nullptr && focusWidget() == nullptr)
@@ -196,7 +192,9 @@ void frmTer::KeepInputOut() {
 
 void frmTer::Timer1_Timer() {
     const bool busy = session_.TerrainBusy;
-    EnableInput(!busy);
+    // A command whose flag is clear has not ended yet: whatever it kept out stays out.
+    if (busy || !host_.CommandRuns())
+        EnableInput(!busy);
     if (busy) {
         PB_->setValue(STDIO::ClampValue(0, 100, session_.document.CurrentTerrain.pProgress));
     } else {
@@ -205,51 +203,6 @@ void frmTer::Timer1_Timer() {
     }
     if (isMinimized())
         UpdateTitle();
-}
-
-void frmTer::Toolbar1_ButtonClick(const QString& key) {
-    session_.document.CurrentTerrain.CRAD(static_cast<float>(globalPanel_->PlanetRadius()));
-    session_.document.CurrentTerrain.CRVM(globalPanel_->Curved() ? 1 : 0);
-    ShowPlanView();
-    bool commonEnd = true;
-    RunCommand(this, host_, toolbar_->Button(key)->text(), [&] { commonEnd = RunButton(key); });
-    if (commonEnd)
-        CommonEnd();
-}
-
-/// False for a command that ends without the steps that all others end with.
-bool frmTer::RunButton(const QString& key) {
-    if (key == QStringLiteral("SavePerlin"))
-        dlgSavePerlinsetNew(*this).exec();
-    else if (key == QStringLiteral("Terragen"))
-        StartTerragen(session_, host_, [this] { document_.FileSave(1); });
-    else if (key == QStringLiteral("Neu"))
-        document_.Neu();
-    else if (key == QStringLiteral("Öffnen"))
-        return document_.Oeffnen();
-    else if (key == QStringLiteral("Speichern"))
-        return document_.Speichern();
-    else if (key == QStringLiteral("SpeichernAls"))
-        return document_.SpeichernAls();
-    else if (key == QStringLiteral("Löschen"))
-        document_.Loeschen();
-    else if (key == QStringLiteral("Backup"))
-        document_.Backup();
-    else if (key == QStringLiteral("Restore"))
-        return document_.Restore();
-    else if (key == QStringLiteral("Eigenschaften"))
-        dlgOptions(*this).exec();
-    else if (key == QStringLiteral("Hilfe"))
-        frmAbout(this).exec();
-    else if (key == QStringLiteral("Zoom in"))
-        ResizePicture(2);
-    else if (key == QStringLiteral("Zoom out"))
-        ResizePicture(0.5);
-    else if (key == QStringLiteral("Zoom100"))
-        ResizePicture(0);
-    else if (key == QStringLiteral("Print"))
-        dlgPrint(*this, Picture1_->grab().toImage()).exec();
-    return true;
 }
 
 void frmTer::CommonEnd() {
@@ -262,16 +215,24 @@ void frmTer::CommonEnd() {
 }
 
 void frmTer::OpenFile(const std::filesystem::path& path) {
-    RunCommand(this, host_, QStringLiteral("Open"), [&] { document_.Open(path); });
+    if (host_.CommandRuns())
+        return;
+    const CommandScope scope(host_);
+    RunPart(this, host_, QStringLiteral("Open"), [&] { document_.Open(path); });
     CommonEnd();
 }
 
+void frmTer::StepBack() {
+    RunCommand(this, host_, QStringLiteral("Undo"), [this] { document_.Undo(); });
+}
+
+void frmTer::StepForward() {
+    RunCommand(this, host_, QStringLiteral("Redo"), [this] { document_.Redo(); });
+}
+
 void frmTer::ShowZView() {
-    if (session_.TerrainBusy) {
-        ShowPlanView();
-        return;
-    }
-    if (!RunCommand(this, host_, QStringLiteral("Z-View"), [this] { optZView_Click(); }))
+    if (RunCommand(this, host_, QStringLiteral("Z-View"), [this] { optZView_Click(); }) !=
+        Ended::Well)
         ShowPlanView();
 }
 
@@ -285,31 +246,14 @@ void frmTer::optZView_Click() {
         ShowPlanView();
         return;
     }
+    HeightsChange change(session_.document, "Z-View");
     session_.document.CurrentTerrain.ScaleTerrain();
+    change.Commit();
     ActualScreen();
     PicZ_->SetAltitudes(globalPanel_->LowestText(), globalPanel_->HighestText());
     optZView_->setChecked(true);
     views_->setCurrentIndex(1);
-    PicZ_->Open(Picture1_->Raster());
-}
-
-void frmTer::Picture1_MouseMove(double x, double y) {
-    if (session_.TerrainBusy)
-        return;
-    if (const auto texts = PointTexts(session_.document.CurrentTerrain, x, y))
-        for (std::size_t i = 0; i < texts->size(); ++i)
-            sBar_->SetPanel(static_cast<int>(i) + 2, (*texts)[i]);
-}
-
-void frmTer::Picture1_DblClick() {
-    if (session_.TerrainBusy)
-        return;
-    host_.Busy(true);
-    host_.Status("Picture redraw...");
-    host_.Yield();
-    RebuildPicture();
-    host_.Status("Ready");
-    host_.Busy(false);
+    PicZ_->Open(planView_->Raster());
 }
 
 void frmTer::resizeEvent(QResizeEvent* event) {
@@ -320,13 +264,11 @@ void frmTer::resizeEvent(QResizeEvent* event) {
 }
 
 void frmTer::closeEvent(QCloseEvent* event) {
-    if (session_.TerrainBusy) {
-        event->ignore();
-        return;
-    }
     bool mayExit = false;
-    RunCommand(this, host_, QStringLiteral("EXIT"), [&] { mayExit = document_.MayExit(); });
-    session_.TerrainBusy = false;
+    RunCommand(this, host_, QStringLiteral("EXIT"), [&] {
+        mayExit = document_.MayExit();
+        session_.TerrainBusy = false;
+    });
     event->setAccepted(mayExit);
     if (mayExit)
         RemoveBackup(session_);
@@ -344,17 +286,16 @@ void frmTer::changeEvent(QEvent* event) {
 }
 
 void frmTer::dragEnterEvent(QDragEnterEvent* event) {
-    if (!session_.TerrainBusy && DraggedTerrain(event->mimeData()))
+    if (!host_.CommandRuns() && DraggedTerrain(event->mimeData()))
         event->acceptProposedAction();
 }
 
 void frmTer::dropEvent(QDropEvent* event) {
     const auto path = DraggedTerrain(event->mimeData());
-    if (!path || session_.TerrainBusy)
+    if (!path || host_.CommandRuns())
         return;
     // Not within the drop: its sender would wait for the answer to a question.
-    dropped_ = *path;
-    openDropped_->start(0);
+    host_.WhenIdle([this, path = *path] { OpenFile(path); });
 }
 
 }  // namespace quillbrand

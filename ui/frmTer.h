@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "ui/DocumentCommands.h"
+#include "ui/Toolbar1.h"
 #include "ui/WindowHost.h"
 #include "ui/Workplace.h"
 
@@ -22,10 +23,9 @@ class EffectsPanel;
 class GeneratorPanel;
 class GlobalPanel;
 class ObjectsPanel;
-class PictureBox;
+class PlanView;
 class StatusPanels;
 class ToolStrip;
-class Toolbar1;
 class ZViewPanel;
 
 /// The main window: only the frame around tool bar, picture, tabs and status bar, the heartbeat,
@@ -43,13 +43,12 @@ class frmTer : public QMainWindow, public Workplace {
     bool Form_Load();
 
     Session& TheSession() override { return session_; }
-    Host& TheHost() override { return host_; }
+    WindowHost& TheHost() override { return host_; }
     QWidget* Window() override { return this; }
     void ShowPlanView() override;
     void ResizePicture(double factor = 1) override;
     void RebuildPicture() override;
-    std::optional<int> ChosenSize() override;
-    std::string SeedText() override;
+    void ShowFixHeight() override;
 
     /// Opens a TER file like the dialog does; a fault is shown.
     void OpenFile(const std::filesystem::path& path);
@@ -74,14 +73,15 @@ class frmTer : public QMainWindow, public Workplace {
     void EnableInput(bool enable);
     void KeepInputOut();
     void Timer1_Timer();
-    void Toolbar1_ButtonClick(const QString& key);
-    bool RunButton(const QString& key);
+    std::vector<ToolButton> Buttons();
+    void Toolbar1_ButtonClick(const QString& key, const std::function<bool()>& work);
+    void StepBack();
+    void StepForward();
+    void ShowHistory();
     void CommonEnd();
     void ShowZView();
     void ShowSwatch();
     void optZView_Click();
-    void Picture1_MouseMove(double x, double y);
-    void Picture1_DblClick();
     void UpdateTitle();
     double PictureLimit() const;
 
@@ -93,7 +93,7 @@ class frmTer : public QMainWindow, public Workplace {
     ToolStrip* toolStrip_;
     QWidget* pictures_;
     QStackedLayout* views_;
-    PictureBox* Picture1_;
+    PlanView* planView_;
     ZViewPanel* PicZ_;
     QRadioButton* OptXYView_;
     QRadioButton* optZView_;
@@ -107,8 +107,6 @@ class frmTer : public QMainWindow, public Workplace {
     ObjectsPanel* objectsPanel_;
     StatusPanels* sBar_;
     QTimer* Timer1_;
-    QTimer* openDropped_;
-    std::filesystem::path dropped_;  ///< what openDropped_ opens
     bool loaded_ = false;
     bool inputEnabled_ = true;
     QPointer<QWidget> focusBefore_;

@@ -5,7 +5,6 @@
 #include <QTimer>
 
 #include "ui/StatusPanels.h"
-#include "ui/Toolbar1.h"
 #include "ui/controls/Controls.h"
 #include "ui/frmTer.h"
 #include "ui/panels/EditPanel.h"
@@ -13,7 +12,7 @@
 #include "ui/panels/GeneratorPanel.h"
 #include "ui/panels/GlobalPanel.h"
 #include "ui/panels/ObjectsPanel.h"
-#include "ui/plan/PictureBox.h"
+#include "ui/plan/PlanView.h"
 #include "ui/plan/ToolStrip.h"
 #include "ui/plan/ZViewPanel.h"
 
@@ -28,7 +27,7 @@ constexpr int rightColumnWidth = 372;
 }  // namespace
 
 void frmTer::BuildWindow() {
-    toolbar_ = new Toolbar1(this);
+    toolbar_ = new Toolbar1(Buttons(), this);
     addToolBar(Qt::TopToolBarArea, toolbar_);
     sBar_ = new StatusPanels(this);
     setStatusBar(sBar_);
@@ -54,21 +53,10 @@ QWidget* frmTer::BuildPictures() {
     pictures_->setObjectName(QStringLiteral("PictureArea"));
     pictures_->setMinimumSize(640, 480);
 
-    auto* plan = new QWidget;
-    plan->setAutoFillBackground(true);
-    QPalette black;
-    black.setColor(QPalette::Window, Qt::black);
-    plan->setPalette(black);
-    auto* planLayout = new QHBoxLayout(plan);
-    planLayout->setContentsMargins(0, 0, 0, 0);
-    Picture1_ = new PictureBox;
-    Picture1_->setObjectName(QStringLiteral("Picture1"));
-    Picture1_->setCursor(Qt::CrossCursor);
-    planLayout->addWidget(Picture1_, 0, Qt::AlignCenter);
-
+    planView_ = new PlanView(*this);
     PicZ_ = new ZViewPanel(*this);
     views_ = new QStackedLayout(pictures_);
-    views_->addWidget(plan);
+    views_->addWidget(planView_);
     views_->addWidget(PicZ_);
     return pictures_;
 }

@@ -48,22 +48,28 @@ TEST_F(Commands, ThatFailChangeNothing) {
     const auto nowhere = folder / "nowhere/a.ter";
     WriteText(folder / "short.ter", "TERRAGENTERRAIN SIZE" + std::string(90, '\1'));
     const GeneratorSettings broken{.set = 5, .seed = {}, .clearTerrain = true};
-    ExpectFaultChangesNothing([&] { SaveTerrain(session, nowhere, true, host); });
-    ExpectFaultChangesNothing([&] { SaveAsPerlinSet(session, nowhere, "x", host); });
-    ExpectFaultChangesNothing([&] { OpenTerrain(session, nowhere, host); });
-    ExpectFaultChangesNothing([&] { OpenTerrain(session, folder / "short.ter", host); });
-    ExpectFaultChangesNothing([&] { RestoreTerrain(session, nowhere); });
-    ExpectFaultChangesNothing([&] { ProduceTerrain(session, 256, broken, host); });
+    ExpectFaultChangesNothing([&] { SaveTerrain(session.document, nowhere, true, host); });
+    ExpectFaultChangesNothing([&] { SaveAsPerlinSet(session.document, nowhere, "x", host); });
+    ExpectFaultChangesNothing(
+        [&] { OpenTerrain(session.document, session.tools.LoadMemory, nowhere, host); });
+    ExpectFaultChangesNothing([&] {
+        OpenTerrain(session.document, session.tools.LoadMemory, folder / "short.ter", host);
+    });
+    ExpectFaultChangesNothing([&] { RestoreTerrain(session.document, nowhere); });
+    ExpectFaultChangesNothing([&] {
+        ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 256, broken,
+                       host);
+    });
 }
 
 TEST_F(Commands, ClearForgetsFileAndWindowAndNewKeepsThem) {
     session.document.CurrentTerrain.HeightScale(32767);
     session.document.CurrentTerrain.BaseHeight(32767);
-    NewTerrain(session);
+    NewTerrain(session.document);
     EXPECT_EQ(session.document.CurrentFile, "hill.ter");
     EXPECT_EQ(session.document.CurrentTerrain.HeightScale(), 32767);
     EXPECT_TRUE(session.document.TerrainEmpty);
-    ClearTerrain(session, 5);
+    ClearTerrain(session.document, 5);
     EXPECT_EQ(session.document.CurrentFile, "noname");
     EXPECT_EQ(session.document.CurrentTerrain.XPoints(), 5);
     EXPECT_EQ(session.document.CurrentTerrain.MinTU(), -10);
@@ -72,36 +78,39 @@ TEST_F(Commands, ClearForgetsFileAndWindowAndNewKeepsThem) {
 
 TEST_F(Commands, SavedAndBackedUpTerrainsComeBack) {
     const auto file = folder / "a.ter";
-    SaveTerrain(session, file, true, host);
+    SaveTerrain(session.document, file, true, host);
     EXPECT_TRUE(session.document.TerrainSaved);
     EXPECT_EQ(session.document.CurrentFile, file.string());
     const std::string saved = TextOf(session.document.CurrentTerrain);
     BackupTerrain(session, folder / "b.qbt");
     EXPECT_TRUE(session.BackupExists);
 
-    ClearTerrain(session, 5);
-    RestoreTerrain(session, folder / "b.qbt");
+    ClearTerrain(session.document, 5);
+    RestoreTerrain(session.document, folder / "b.qbt");
     EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
     EXPECT_TRUE(session.document.TerrainEmpty);
 
-    ClearTerrain(session, 5);
-    EXPECT_TRUE(OpenTerrain(session, file, host));
+    ClearTerrain(session.document, 5);
+    EXPECT_TRUE(OpenTerrain(session.document, session.tools.LoadMemory, file, host));
     EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
     EXPECT_FALSE(session.document.TerrainEmpty);
 }
 
 TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
     session.tools.ModifyMode = Subtraction;
-    ProduceTerrain(session, 128, {.seed = "1"}, host);
+    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128, {.seed = "1"},
+                   host);
     EXPECT_EQ(session.tools.ModifyMode, Subtraction);
 
     session.tools.ModifyMode = Multiplication;
-    ProduceTerrain(session, 128, {.seed = "1", .clearTerrain = true}, host);
+    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128,
+                   {.seed = "1", .clearTerrain = true}, host);
     EXPECT_EQ(session.document.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
     EXPECT_EQ(session.tools.ModifyMode, Add);
 
-    ClearTerrain(session, 129);
-    ProduceTerrain(session, 128, {.seed = "1"}, host);
+    ClearTerrain(session.document, 129);
+    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128, {.seed = "1"},
+                   host);
     EXPECT_GT(session.document.CurrentTerrain.Range(), 60000);
     EXPECT_FALSE(session.document.TerrainEmpty);
 }
@@ -109,37 +118,49 @@ TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
 TEST_F(Commands, GeneratorFileCarriesSeedAndModeOfTheSession) {
     session.tools.RandomSeedValue = 4711;
     session.tools.ModifyMode = highest;
-    SaveGenerator(session, folder / "a.par", {.iterations = 7, .seed = {}});
+    SaveGenerator(session.tools, folder / "a.par", {.iterations = 7, .seed = {}});
     session.tools.RandomSeedValue = 0;
     session.tools.ModifyMode = Add;
-    EXPECT_EQ(LoadGenerator(session, folder / "a.par", 0).iterations, 7);
+    EXPECT_EQ(LoadGenerator(session.tools, folder / "a.par", 0).iterations, 7);
     EXPECT_EQ(session.tools.RandomSeedValue, 4711);
     EXPECT_EQ(session.tools.ModifyMode, highest);
     WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\n");
-    EXPECT_EQ(LoadGenerator(session, folder / "far.par", 0).seed, "1e10");
+    EXPECT_EQ(LoadGenerator(session.tools, folder / "far.par", 0).seed, "1e10");
     EXPECT_EQ(session.tools.RandomSeedValue, 2147483647);
 }
 
 TEST_F(Commands, EffectWorksBetweenItsLimitsOnly) {
     const auto cells = AllCells(session.document.CurrentTerrain);
-    StartEffect(session, {.code = 1, .strength = 5, .zMin = 5000, .zMax = 6000}, host);
+    StartEffect(session.document, session.tools, session.settings,
+                {.code = 1, .strength = 5, .zMin = 5000, .zMax = 6000}, host);
     EXPECT_EQ(AllCells(session.document.CurrentTerrain), cells);
-    StartEffect(session, {.code = 1, .strength = 5}, host);
+    StartEffect(session.document, session.tools, session.settings, {.code = 1, .strength = 5},
+                host);
     EXPECT_NE(AllCells(session.document.CurrentTerrain), cells);
     EXPECT_FALSE(host.isBusy);
 }
 
 TEST_F(Commands, EffectsThatFailMidwayLeaveTheHeights) {
     session.document.CurrentTerrain.Fill(700);
-    ExpectFaultChangesNothing([&] { StartEffect(session, {.code = 7, .strength = 1}, host); });
+    ExpectFaultChangesNothing([&] {
+        StartEffect(session.document, session.tools, session.settings, {.code = 7, .strength = 1},
+                    host);
+    });
     session.document.CurrentTerrain.SetPoint(3, 3, 200000);
     session.tools.elevator.grid.Arm(true);
-    ExpectFaultChangesNothing(
-        [&] { StartEffect(session, {.code = 4, .strength = 1, .zMin = 0, .zMax = 300000}, host); });
-    ExpectFaultChangesNothing([&] { StartEffect(session, {.code = 5, .strength = 1}, host); });
+    ExpectFaultChangesNothing([&] {
+        StartEffect(session.document, session.tools, session.settings,
+                    {.code = 4, .strength = 1, .zMin = 0, .zMax = 300000}, host);
+    });
+    ExpectFaultChangesNothing([&] {
+        StartEffect(session.document, session.tools, session.settings, {.code = 5, .strength = 1},
+                    host);
+    });
     const auto fail = []() -> std::optional<ErosionSettings> { throw Fault("no dialog"); };
-    ExpectFaultChangesNothing(
-        [&] { StartEffect(session, {.code = 12, .strength = 1, .startErosion = fail}, host); });
+    ExpectFaultChangesNothing([&] {
+        StartEffect(session.document, session.tools, session.settings,
+                    {.code = 12, .strength = 1, .startErosion = fail}, host);
+    });
 }
 
 }  // namespace

@@ -27,9 +27,9 @@ _____________________________________________________
 class PrintedPage : public testing::Test {
   protected:
     PrintedPage() {
-        session.document.CurrentTerrain.Init(5);
-        session.document.CurrentTerrain.ScaleT(30);
-        session.document.CurrentFile = "/a b/hill.ter";
+        document.CurrentTerrain.Init(5);
+        document.CurrentTerrain.ScaleT(30);
+        document.CurrentFile = "/a b/hill.ter";
         picture.fill(Qt::red);
         picture.setPixelColor(1, 2, QColor(1, 2, 3));
     }
@@ -37,12 +37,12 @@ class PrintedPage : public testing::Test {
     /// Prints into a file of the folder and returns its path.
     std::filesystem::path Pdf(const PrintSettings& settings) {
         auto path = folder / "page.pdf";
-        ReplaceFile(path, PrintedPdf(session, picture, settings));
+        ReplaceFile(path, PrintedPdf(document, picture, settings));
         return path;
     }
 
     TemporaryFolder folder;
-    Session session;
+    Document document;
     QImage picture{7, 7, QImage::Format_RGB32};
 };
 
@@ -62,8 +62,8 @@ QRect RedPart(const QImage& page) {
 }
 
 TEST_F(PrintedPage, HasTheLinesInTheirOrder) {
-    EXPECT_EQ(PageLines(session)[7], "Size           :5 x 5 Pixel");
-    EXPECT_EQ(PageLines(session)[8], "Height Scale   : 30 m");
+    EXPECT_EQ(PageLines(document)[7], "Size           :5 x 5 Pixel");
+    EXPECT_EQ(PageLines(document)[8], "Height Scale   : 30 m");
     EXPECT_EQ(PdfText(Pdf({})), lines);
 }
 
@@ -98,11 +98,11 @@ TEST_F(PrintedPage, PrintsOnlyWhatIsTicked) {
     const auto nothing = Pdf({.terrain = false, .settings = false, .copies = 2});
     EXPECT_EQ(PdfText(nothing), "");
     EXPECT_TRUE(RedPart(PdfPage(nothing, 2, 36)).isEmpty());
-    EXPECT_TRUE(PrintedPdf(session, picture, {.copies = 0}).empty());
+    EXPECT_TRUE(PrintedPdf(document, picture, {.copies = 0}).empty());
 }
 
 TEST_F(PrintedPage, KeepsALongPathOnThePaper) {
-    session.document.CurrentFile = "/" + std::string(200, 'w') + "/end";
+    document.CurrentFile = "/" + std::string(200, 'w') + "/end";
     EXPECT_LT(WordBox(Pdf({}), 1, "Name").right(), 100);
     const QImage page = PdfPage(Pdf({.terrain = false}), 1, 72);
     EXPECT_LE(Extent(page, [](const QColor& c) { return c.red() < 200; }).right(), 595 - 44);
@@ -119,7 +119,7 @@ TEST_F(PrintedPage, MakesAJobOfEachCopyAndFitsLowPaperWithMargins) {
         QPdfWriter device(&buffer);
         device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape,
                                          QMarginsF(10, 5, 10, 5), QPageLayout::Millimeter));
-        PrintPage(device, CopyAs::Job, session, picture, {.copies = 3});
+        PrintPage(device, CopyAs::Job, document, picture, {.copies = 3});
     }
     EXPECT_EQ(buffer.data().count("%PDF-"), 3);
 

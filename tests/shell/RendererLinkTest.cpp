@@ -36,7 +36,7 @@ class RendererLink : public testing::Test {
         fs::create_directories(bin);
         fs::current_path(folder.Path());
         session.settings.IniPath = folder / "Quillbrand.ini";
-        vbConfig::WriteIni(session, "Terragen", "directory", renderer.string());
+        vbConfig::WriteIni(session.settings, "Terragen", "directory", renderer.string());
         session.document.CurrentTerrain = GridFrom("1 2 3 / 4 5 6 / 7 8 9");
         session.document.TerrainEmpty = false;
         setenv("PATH", bin.c_str(), 1);
@@ -60,10 +60,10 @@ class RendererLink : public testing::Test {
 
     void Run(Answer answer) {
         host.answers = {answer};
-        StartTerragen(session, host, [this] {
+        StartTerragen(session.document, session.settings, host, [this] {
             ++asked;
             if (!chosen.empty())
-                SaveTerrain(session, chosen, true, host);
+                SaveTerrain(session.document, chosen, true, host);
         });
     }
 
@@ -132,7 +132,7 @@ TEST_F(RendererLink, TellsWhatIsMissing) {
     EXPECT_EQ(Message(Answer::No), failed + "The system does not run " +
                                        (renderer / "terragen.exe").string() +
                                        ", and wine is not installed");
-    vbConfig::WriteIni(session, "Terragen", "directory", "");
+    vbConfig::WriteIni(session.settings, "Terragen", "directory", "");
     EXPECT_EQ(Message(Answer::Cancel), "Start Terragen: " + select);
     EXPECT_EQ(host.questions.size(), 3u) << "the question comes first";
     session.document.TerrainEmpty = true;

@@ -67,9 +67,9 @@ TEST(SubMain, KeepsOnlyAStartFileThatExists) {
 
 TEST(vbConfig, ReadsBackTrimmedWhatItWrote) {
     const Started started("; mine\n[Start]\nOptTer=0\n");
-    EXPECT_EQ(vbConfig::WriteIni(started.session, "start", "COLOR", " 3 "), "3");
-    EXPECT_EQ(vbConfig::ReadIni(started.session, "Start", "color"), "3");
-    EXPECT_EQ(vbConfig::ReadIni(started.session, "START", "optter"), "0");
+    EXPECT_EQ(vbConfig::WriteIni(started.session.settings, "start", "COLOR", " 3 "), "3");
+    EXPECT_EQ(vbConfig::ReadIni(started.session.settings, "Start", "color"), "3");
+    EXPECT_EQ(vbConfig::ReadIni(started.session.settings, "START", "optter"), "0");
     EXPECT_NE(TextOf(started.folder / "Quillbrand.ini").find("; mine"), std::string::npos);
 }
 

@@ -69,6 +69,17 @@ TEST(Dialogs, CloseByEscape) {
     EXPECT_EQ(saveAs.SaveType, 0);
 }
 
+TEST(PreviewDialog, ClosesByALeftClickOnThePictureOnly) {
+    dlgPreview preview;
+    preview.show();
+    auto* picture = preview.findChild<QWidget*>("Picture1");
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton})
+        QTest::mouseClick(picture, button);
+    EXPECT_TRUE(preview.isVisible());
+    QTest::mouseClick(picture, Qt::LeftButton);
+    EXPECT_FALSE(preview.isVisible());
+}
+
 TEST(SaveAsDialog, GivesTheTypeAndOffersOnlyWhatCanBeWritten) {
     dlgSaveAs dialog;
     dialog.show();

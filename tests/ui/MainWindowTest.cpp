@@ -39,6 +39,16 @@ TEST_F(MainWindow, StartsEmptyWithItsTitleAndTheListOfSets) {
               QString::number(session_.tools.RandomSeedValue));
 }
 
+TEST_F(MainWindow, OffersNothingThatIsNotThere) {
+    ASSERT_TRUE(StartWindow());
+    Produce("151");
+    for (const char* key : {"View3d", "ObjectMaker"})
+        EXPECT_FALSE(ToolIsEnabled(key)) << key;
+    for (const char* name : {"cmdMask", "CmdResize", "Toolbar2", "ToolBarPen", "cmdObjLoad",
+                             "cmdObjMergeAll", "cmdObjDeleteAll", "cmdObjektmaker"})
+        EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
+}
+
 TEST_F(MainWindow, EndsWithAMessageWhenThereAreNoSets) {
     std::filesystem::remove_all(folder_ / "PS");
     ModalUser user({Press("OK")});

@@ -206,18 +206,18 @@ TEST_F(Panels, TickTheSizeThatFitsAndNoOther) {
                 names += option->objectName();
         return names;
     };
-    EXPECT_EQ(panel.ChosenSize(), std::nullopt);
+    EXPECT_EQ(session_.tools.chosenSize, std::nullopt);
     panel.TickSize(512);
     EXPECT_EQ(ticked(), QStringList("optTerSize2"));
-    EXPECT_EQ(panel.ChosenSize(), 512);
+    EXPECT_EQ(session_.tools.chosenSize, 512);
     panel.TickSize(300);
     EXPECT_EQ(ticked(), QStringList());
-    EXPECT_EQ(panel.ChosenSize(), std::nullopt);
+    EXPECT_EQ(session_.tools.chosenSize, std::nullopt);
     panel.show();
     for (const char* name : {"optTerSize4", "optTerSize0"})
         QTest::mouseClick(panel.findChild<QRadioButton*>(name), Qt::LeftButton);
     EXPECT_EQ(ticked(), QStringList("optTerSize0"));
-    EXPECT_EQ(panel.ChosenSize(), 128);
+    EXPECT_EQ(session_.tools.chosenSize, 128);
 }
 
 TEST_F(Panels, ShowTheHeaderOfTheTerrain) {

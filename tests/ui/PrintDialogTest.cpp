@@ -42,7 +42,8 @@ class PrintDialog : public WindowFixture {
 
 TEST_F(PrintDialog, PrintsThePlanViewAsItStandsOnTheScreen) {
     auto* picture = Find<PictureBox>("Picture1");
-    picture->Raster().Row(3)[5] = qRgb(1, 2, 3);
+    picture->EditRaster().Row(3)[5] = qRgb(1, 2, 3);
+    picture->RasterChanged();
     EXPECT_EQ(Print({Press("Printer..."), PressEscape(), Press("Printer..."), SetUpFile(pdf_),
                      Press("Print")}),
               QStringList());

@@ -19,7 +19,7 @@ TEST_F(TerragenKey, SavesANewDocumentUnderAChosenNameAndStartsTheRenderer) {
     std::filesystem::permissions(program, std::filesystem::perms::owner_all);
     ASSERT_EQ(mkfifo((folder_ / "arguments").c_str(), 0600), 0);
     ASSERT_TRUE(StartWindow());
-    vbConfig::WriteIni(session_, "Terragen", "directory", folder_.Path().string());
+    vbConfig::WriteIni(session_.settings, "Terragen", "directory", folder_.Path().string());
     Produce("2718");
     {
         ModalUser user({Press("Yes"), PressEscape(), Press("OK")});

@@ -18,34 +18,48 @@ FolderDialog::FolderDialog(const QString& title, const std::filesystem::path& pr
     setFileMode(Directory);
     AddStatusLine();
     edit_ = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    // The base would select in the list what is typed, and type what is selected: round in circles.
-    disconnect(edit_, &QLineEdit::textChanged, this, nullptr);
+    if (edit_ != nullptr) {
+        // The base would select in the list what is typed, and type what is selected: in circles.
+        disconnect(edit_, &QLineEdit::textChanged, this, nullptr);
+        connect(edit_, &QLineEdit::textChanged, this, &FolderDialog::ShowSelection);
+    }
     connect(this, &QFileDialog::currentChanged, this, &FolderDialog::ShowSelection);
     connect(this, &QFileDialog::directoryEntered, this, &FolderDialog::Entered);
-    connect(edit_, &QLineEdit::textChanged, this, &FolderDialog::ShowSelection);
     GoTo(callback_.Initialised());
 }
 
-/// It takes the place of the choice of file types, which folders have none of.
+/// It takes the place of the choice of file types, which folders have none of. The parts of the
+/// base are its own affair, so that one may be missing.
 void FolderDialog::AddStatusLine() {
     StatusText_ = Named(new QLabel, "StatusText");
     // A long path must not widen the window.
     StatusText_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto* grid = qobject_cast<QGridLayout*>(layout());
     auto* types = findChild<QWidget*>(QStringLiteral("fileTypeCombo"));
+    const int place = grid != nullptr && types != nullptr ? grid->indexOf(types) : -1;
+    if (place < 0) {
+        if (layout() != nullptr)
+            layout()->addWidget(StatusText_);
+        return;
+    }
     int row = 0;
     int column = 0;
     int rows = 0;
     int columns = 0;
-    grid->getItemPosition(grid->indexOf(types), &row, &column, &rows, &columns);
+    grid->getItemPosition(place, &row, &column, &rows, &columns);
     grid->addWidget(StatusText_, row, 0, 1, column + columns);
     types->hide();
-    findChild<QWidget*>(QStringLiteral("fileTypeLabel"))->hide();
+    if (auto* label = findChild<QWidget*>(QStringLiteral("fileTypeLabel")))
+        label->hide();
+}
+
+QString FolderDialog::Typed() const {
+    return edit_ != nullptr ? edit_->text() : QString();
 }
 
 /// What is typed counts more than what is highlighted in the list.
 QString FolderDialog::Folder() const {
-    QString path = edit_->text();
+    QString path = Typed();
     if (path.isEmpty())
         path = selectedFiles().value(0);
     if (path == QLatin1String("~") || path.startsWith(QLatin1String("~/")))
@@ -59,8 +73,7 @@ void FolderDialog::accept() {
         done(Accepted);
         return;
     }
-    TellUser(this, QStringLiteral("There is no folder of this name: ") + edit_->text(),
-             windowTitle());
+    TellUser(this, QStringLiteral("There is no folder of this name: ") + Typed(), windowTitle());
     GoTo(callback_.ValidationFailed());
 }
 
@@ -71,7 +84,8 @@ void FolderDialog::GoTo(const std::filesystem::path& folder) {
 
 /// The folder that is shown is selected until one in it is.
 void FolderDialog::Entered() {
-    edit_->clear();
+    if (edit_ != nullptr)
+        edit_->clear();
     ShowSelection();
 }
 

@@ -25,13 +25,14 @@ class FolderDialog : public QFileDialog {
 
   private:
     void AddStatusLine();
+    QString Typed() const;
     void GoTo(const std::filesystem::path& folder);
     void Entered();
     void ShowSelection();
 
     MdlFolder::BrowseCallback callback_;
     QLabel* StatusText_;
-    QLineEdit* edit_;
+    QLineEdit* edit_ = nullptr;
 };
 
 }  // namespace quillbrand

@@ -72,9 +72,17 @@ void WarnUser(QWidget* parent, const QString& text, const QString& title) {
     QMessageBox(QMessageBox::Critical, title, text, QMessageBox::Ok, parent).exec();
 }
 
-bool RunCommand(QWidget* parent, Host& host, const QString& command,
-                const std::function<void()>& action) {
-    const std::optional<Complaint> complaint = Attempt(command, action);
+Ended RunCommand(QWidget* parent, WindowHost& host, const QString& command,
+                 const std::function<void()>& action) {
+    if (host.CommandRuns())
+        return Ended::BeforeIt;
+    const CommandScope scope(host);
+    return RunPart(parent, host, command, action) ? Ended::Well : Ended::WithFault;
+}
+
+bool RunPart(QWidget* parent, Host& host, const QString& part,
+             const std::function<void()>& action) {
+    const std::optional<Complaint> complaint = Attempt(part, action);
     if (!complaint)
         return true;
     host.Busy(false);

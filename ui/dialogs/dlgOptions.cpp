@@ -6,6 +6,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -71,7 +72,7 @@ QIcon StripIcon(int row) {
 dlgOptions::dlgOptions(Workplace& workplace)
     : QDialog(workplace.Window()),
       workplace_(workplace),
-      settings_(LoadOptions(workplace.TheSession())),
+      settings_(LoadOptions(workplace.TheSession().settings)),
       windowBefore_(workplace.Window()->palette()) {
     setObjectName(QStringLiteral("dlgOptions"));
     setWindowTitle(QStringLiteral("Options"));
@@ -96,7 +97,8 @@ QWidget* dlgOptions::BuildProgram() {
     auto* chkRegTERFile =
         MakeCheck("chkRegTERFile", "register TER-Files with Quillbrand",
                   "Each click makes the desktop open terrain files with this program");
-    grid->addWidget(chkRegTERFile, 2, 0, 1, 2);
+    grid->addWidget(BuildHistory(), 2, 0, 1, 2);
+    grid->addWidget(chkRegTERFile, 3, 0, 1, 2);
     connect(chkRegTERFile, &QCheckBox::clicked, this, &dlgOptions::chkRegTERFile_Click);
     return page;
 }
@@ -146,6 +148,21 @@ QWidget* dlgOptions::BuildWindowColour() {
     layout->addStretch();
     layout->addWidget(cmdSelectColor);
     connect(cmdSelectColor, &QPushButton::clicked, this, &dlgOptions::cmdSelectColor_Click);
+    return frame;
+}
+
+QWidget* dlgOptions::BuildHistory() {
+    auto* frame = MakeFrame("Undo");
+    spnHistory_ = Named(new QSpinBox, "spnHistory",
+                        "Steps that need more are forgotten, the oldest first; five stay always");
+    spnHistory_->setRange(0, Settings::mostHistoryMegabytes);
+    spnHistory_->setSingleStep(64);
+    spnHistory_->setSuffix(QStringLiteral(" MB"));
+    spnHistory_->setValue(settings_.historyMegabytes);
+    auto* layout = new QHBoxLayout(frame);
+    layout->addWidget(MakeLabel("Memory for steps that can be undone", spnHistory_));
+    layout->addStretch();
+    layout->addWidget(spnHistory_);
     return frame;
 }
 
@@ -200,9 +217,11 @@ void dlgOptions::OKButton_Click() {
     if (Option2_->checkedId() > 0)
         settings.ResizeMode = Option2_->checkedId();
     settings.PaletteRow = List1_->currentRow();
+    settings.historyMegabytes = spnHistory_->value();
     const QColor window = workplace_.Window()->palette().color(QPalette::Window);
     settings.BackColor = ColourOf(window.red(), window.green(), window.blue());
-    SaveOptions(workplace_.TheSession(), settings);
+    SaveOptions(workplace_.TheSession().settings, settings);
+    workplace_.TheSession().document.history.Megabytes(settings.historyMegabytes);
     accept();
 }
 
@@ -228,9 +247,9 @@ void dlgOptions::cmdSelectColor_Click() {
 void dlgOptions::chkRegTERFile_Click() {
     std::string reason;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool registered =
-        RegExt::RegisterExtension(".ter", "TerrainFiles", "Quillbrand",
-                                  QCoreApplication::applicationFilePath().toStdString(), &reason);
+    const bool registered = RegExt::RegisterExtension(
+        ".ter", "TerrainFiles", "Quillbrand", QCoreApplication::applicationFilePath().toStdString(),
+        &reason, [this] { workplace_.TheHost().Yield(); });
     QApplication::restoreOverrideCursor();
     if (!registered)
         WarnUser(this, QString::fromStdString(reason), windowTitle());
@@ -246,7 +265,7 @@ void dlgOptions::ChooseFolder(const MdlFolder::Target& target) {
         TellUser(this, Words(MdlFolder::noPathText), windowTitle());
         return;
     }
-    const std::string shown = WriteFolder(session, std::string(target.section), folder);
+    const std::string shown = WriteFolder(session.settings, std::string(target.section), folder);
     findChild<QLineEdit*>(Words(target.textBox))->setText(QString::fromStdString(shown));
 }
 

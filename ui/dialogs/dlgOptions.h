@@ -12,6 +12,7 @@
 class QButtonGroup;
 class QLineEdit;
 class QListWidget;
+class QSpinBox;
 
 namespace quillbrand {
 
@@ -32,6 +33,7 @@ class dlgOptions : public QDialog {
     QWidget* BuildResizeModes();
     QWidget* BuildPalettes();
     QWidget* BuildWindowColour();
+    QWidget* BuildHistory();
     QWidget* BuildFolders();
     QLayout* BuildButtons();
 
@@ -46,6 +48,7 @@ class dlgOptions : public QDialog {
     QButtonGroup* Option1_;
     QButtonGroup* Option2_;
     QListWidget* List1_;
+    QSpinBox* spnHistory_;
 };
 
 }  // namespace quillbrand

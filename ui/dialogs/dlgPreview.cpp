@@ -33,8 +33,9 @@ dlgPreview::dlgPreview(QWidget* parent) : QDialog(parent) {
 }
 
 void dlgPreview::ShowHeights(clsTerrain& preview, int paletteRow, Host& host) {
-    BuildHeightPicture(Picture1_->Raster(), preview, paletteRow, host);
-    Picture1_->update();
+    Picture raster;
+    BuildHeightPicture(raster, preview, paletteRow, host);
+    Picture1_->SetRaster(std::move(raster));
 }
 
 }  // namespace quillbrand

@@ -120,15 +120,15 @@ PrintSettings dlgPrint::Settings() const {
 
 void dlgPrint::ShowPage() {
     const double scale = devicePixelRatioF();
-    QImage page = PagePicture(workplace_.TheSession(), picture_, Settings(), printer_.pageLayout(),
-                              (QSizeF(previewRoom) * scale).toSize());
+    QImage page = PagePicture(workplace_.TheSession().document, picture_, Settings(),
+                              printer_.pageLayout(), (QSizeF(previewRoom) * scale).toSize());
     PicPrint_->setFixedSize((QSizeF(page.size()) / scale).toSize());
     QPainter edge(&page);
     edge.setPen(QPen(QColor(0x90, 0x90, 0x90), 2 * scale));
     edge.drawRect(page.rect());
     edge.end();
-    PicPrint_->Raster().Image() = page;
-    PicPrint_->update();
+    PicPrint_->EditRaster().Image() = page;
+    PicPrint_->RasterChanged();
 }
 
 void dlgPrint::ShowPrinterName() {
@@ -164,18 +164,18 @@ void dlgPrint::Print() {
             throw Fault(
                 "there is no printer. \"Printer...\" offers to print to a PDF file instead");
         ReplaceFile(printer_.outputFileName().toStdString(),
-                    PrintedPdf(session, picture_, settings, printer_.pageLayout()));
+                    PrintedPdf(session.document, picture_, settings, printer_.pageLayout()));
         return;
     }
     // Each copy is a job of its own, which the system must not multiply again.
     printer_.setCopyCount(1);
     const auto restore = qScopeGuard([&] { printer_.setCopyCount(settings.copies); });
     printer_.setDocName(QStringLiteral("Terrain and Settings"));
-    PrintPage(printer_, CopyAs::Job, session, picture_, settings);
+    PrintPage(printer_, CopyAs::Job, session.document, picture_, settings);
 }
 
 void dlgPrint::OKButton_Click() {
-    if (RunCommand(this, workplace_.TheHost(), windowTitle(), [this] { Print(); }))
+    if (RunPart(this, workplace_.TheHost(), windowTitle(), [this] { Print(); }))
         accept();
 }
 

@@ -35,7 +35,7 @@ dlgSavePerlinsetNew::dlgSavePerlinsetNew(Workplace& workplace)
 }
 
 void dlgSavePerlinsetNew::OKButton_Click() {
-    RunCommand(this, workplace_.TheHost(), windowTitle(), [this] { SavePerlinSet(); });
+    RunPart(this, workplace_.TheHost(), windowTitle(), [this] { SavePerlinSet(); });
 }
 
 void dlgSavePerlinsetNew::SavePerlinSet() {
@@ -48,7 +48,7 @@ void dlgSavePerlinsetNew::SavePerlinSet() {
     if (!chosen)
         return;
     Host& host = workplace_.TheHost();
-    SaveAsPerlinSet(session, chosen->path, Text1_->text().toStdString(), host);
+    SaveAsPerlinSet(session.document, chosen->path, Text1_->text().toStdString(), host);
     host.Busy(false);
     host.ActualScreen();
     accept();

@@ -80,7 +80,7 @@ QWidget* frmElevator::BuildPicture() {
                          "heights from bottom to top;\nonly the lower left quarter takes part.");
     PicElevator_->setFixedSize(pictureSide, pictureSide);
     PicElevator_->setCursor(Qt::CrossCursor);
-    PicElevator_->Raster() = Picture(pictureSide, pictureSide);
+    PicElevator_->SetRaster(Picture(pictureSide, pictureSide));
     auto* border = new QFrame;
     border->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     auto* layout = new QVBoxLayout(border);
@@ -111,8 +111,8 @@ QLayout* frmElevator::BuildSets() {
 void frmElevator::ConnectControls() {
     const auto onClick = [this](QPushButton* button, void (frmElevator::*handler)()) {
         connect(button, &QPushButton::clicked, this, [this, handler] {
-            RunCommand(this, workplace_.TheHost(), windowTitle(),
-                       [this, handler] { (this->*handler)(); });
+            RunPart(this, workplace_.TheHost(), windowTitle(),
+                    [this, handler] { (this->*handler)(); });
         });
     };
     onClick(cmdAddElevatorSet_, &frmElevator::cmdAddElevatorSet_Click);
@@ -161,7 +161,7 @@ void frmElevator::Run() {
 }
 
 void frmElevator::RedrawLine() {
-    Canvas canvas(PicElevator_->Raster());
+    Canvas canvas(PicElevator_->EditRaster());
     canvas.Clear(grey);
     // The quarter that acts on heights.
     constexpr int half = ElevatorMax / 2;
@@ -177,14 +177,14 @@ void frmElevator::RedrawLine() {
                 penX = a;
                 penY = b;
             }
-    PicElevator_->update();
+    PicElevator_->RasterChanged();
 }
 
 void frmElevator::List1_Click() {
     choiceTaken_ = true;
     const int index = List1_->currentRow();
-    const bool chosen = RunCommand(this, workplace_.TheHost(), windowTitle(),
-                                   [&] { QBTools2::ChooseElevatorSet(TheElevator(), index); });
+    const bool chosen = RunPart(this, workplace_.TheHost(), windowTitle(),
+                                [&] { QBTools2::ChooseElevatorSet(TheElevator(), index); });
     if (!chosen) {
         const QSignalBlocker quiet(List1_);
         List1_->setCurrentRow(TheElevator().ElevatorSetIndex);
@@ -192,17 +192,17 @@ void frmElevator::List1_Click() {
     RedrawLine();
 }
 
-void frmElevator::PicElevator_MouseDown(double x, double y, Qt::MouseButton button) {
-    if (button != Qt::LeftButton)
+void frmElevator::PicElevator_MouseDown(const PlanMouse& mouse) {
+    if (mouse.button != Qt::LeftButton)
         return;
-    TheElevator().grid.Press(x, y);
+    TheElevator().grid.Press(mouse.place.x(), mouse.place.y());
     RedrawLine();
 }
 
-void frmElevator::PicElevator_MouseMove(double x, double y, Qt::MouseButtons held) {
-    if (!held.testFlag(Qt::LeftButton))
+void frmElevator::PicElevator_MouseMove(const PlanMouse& mouse) {
+    if (!mouse.held.testFlag(Qt::LeftButton))
         return;
-    TheElevator().grid.Drag(x, y);
+    TheElevator().grid.Drag(mouse.place.x(), mouse.place.y());
     RedrawLine();
 }
 

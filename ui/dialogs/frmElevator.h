@@ -10,6 +10,7 @@ class QPushButton;
 namespace quillbrand {
 
 class PictureBox;
+struct PlanMouse;
 
 /// Draws the elevator's curve by hand and keeps the sets. "OK" arms the effect; every other way
 /// out goes back to the straight line and leaves it disarmed.
@@ -43,8 +44,8 @@ class frmElevator : public QDialog {
     Elevator& TheElevator();
 
     void List1_Click();
-    void PicElevator_MouseDown(double x, double y, Qt::MouseButton button);
-    void PicElevator_MouseMove(double x, double y, Qt::MouseButtons held);
+    void PicElevator_MouseDown(const PlanMouse& mouse);
+    void PicElevator_MouseMove(const PlanMouse& mouse);
     void cmdAddElevatorSet_Click();
     void cmdElevatorSave_Click();
     void cmdReset_Click();

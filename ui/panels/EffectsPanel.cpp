@@ -6,11 +6,11 @@
 #include <QVBoxLayout>
 
 #include "base/NumberText.h"
+#include "base/ShownNumber.h"
 #include "effects/QBFilter.h"
 #include "shell/EffectCommands.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/LabelledSlider.h"
-#include "ui/controls/ShownNumber.h"
 #include "ui/dialogs/Messages.h"
 #include "ui/dialogs/dlgFltErosion.h"
 #include "ui/dialogs/frmElevator.h"
@@ -201,9 +201,9 @@ void EffectsPanel::sldZMax_Change() {
 void EffectsPanel::Refresh() {
     const clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
     const auto metres = [&](const QSlider* limit) {
-        return ShownNumber([&] {
+        return QString::fromStdString(ShownNumber([&] {
             return PlainText(terrain.GetV2Meter(static_cast<float>(limit->value() - sliderZero)));
-        });
+        }));
     };
     txtZMin_->setText(metres(sldZMin_));
     txtZmax_->setText(metres(sldZMax_));
@@ -243,12 +243,12 @@ void EffectsPanel::cmdStartEffects_Click() {
     };
     try {
         StartEffect(
-            session,
+            session.document, session.tools, session.settings,
             {.code = code,
              .strength = static_cast<float>(session.tools.EffectStrength.at(std::size_t(code))),
              .zMin = sldZMin_->value() - sliderZero,
              .zMax = sldZMax_->value() - sliderZero,
-             .seed = workplace_.SeedText(),
+             .seed = session.tools.seedText,
              .startErosion = [this] { return AskErosion(); }},
             host);
     } catch (...) {

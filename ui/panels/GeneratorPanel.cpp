@@ -77,7 +77,7 @@ QLayout* GeneratorPanel::BuildSeedRow() {
 QLayout* GeneratorPanel::BuildButtons() {
     cmdGenModify_ = MakeButton("cmdGenModify", "Modify Options",
                                "select modify options for overlay this terrain");
-    // The two tool tips stand the wrong way round; people know them so.
+    // The two tool tips stand the wrong way round, and stay so.
     save_ = MakeButton("cmdGeneratorSaveSetting", "save", "load generator settings");
     load_ = MakeButton("cmdGenLoadSetting", "load", "save generator settings ");
     cmdPreview_ =
@@ -110,13 +110,12 @@ void GeneratorPanel::ConnectControls() {
     onClick(cmdGenModify_, &GeneratorPanel::cmdGenModify_Click);
     onClick(save_, &GeneratorPanel::cmdGeneratorSaveSetting_Click);
     onClick(load_, &GeneratorPanel::cmdGenLoadSetting_Click);
+    connect(txtRandom_, &QLineEdit::textChanged, this, [this](const QString& text) {
+        workplace_.TheSession().tools.seedText = text.toStdString();
+    });
     connect(txtRandom_, &QLineEdit::textEdited, this, &GeneratorPanel::txtRandom_Change);
     connect(chkClearTerrain_, &QCheckBox::toggled, this,
             [this](bool ticked) { cmdGenModify_->setEnabled(!ticked); });
-}
-
-std::string GeneratorPanel::SeedText() const {
-    return txtRandom_->text().toStdString();
 }
 
 void GeneratorPanel::LoadPerlinList() {
@@ -143,7 +142,7 @@ GeneratorSettings GeneratorPanel::Settings() const {
     settings.height = sldGenHeigth_->value();
     settings.structure = sldStructure_->value();
     settings.roughness = roughness_->value();
-    settings.seed = SeedText();
+    settings.seed = workplace_.TheSession().tools.seedText;
     settings.finerStructures = chkHighResolution_->isChecked();
     settings.clearTerrain = chkClearTerrain_->isChecked();
     return settings;
@@ -160,12 +159,14 @@ void GeneratorPanel::Show(const GeneratorSettings& settings) {
 
 void GeneratorPanel::cmdGenerator_Click() {
     // Read first: what the picture's resizing ticks must not undo the user's choice.
-    const std::optional<int> size = workplace_.ChosenSize();
+    const std::optional<int> size = workplace_.TheSession().tools.chosenSize;
     workplace_.ResizePicture();
     workplace_.ShowPlanView();
     if (!size)
         return;
-    ProduceTerrain(workplace_.TheSession(), *size, Settings(), workplace_.TheHost());
+    ProduceTerrain(workplace_.TheSession().document, workplace_.TheSession().tools,
+                   workplace_.TheSession().settings.ResizeMode, *size, Settings(),
+                   workplace_.TheHost());
     workplace_.ResizePicture();
     workplace_.RebuildPicture();
     workplace_.TheHost().Busy(false);
@@ -175,7 +176,8 @@ void GeneratorPanel::cmdGenerator_Click() {
 void GeneratorPanel::cmdPreview_Click() {
     Session& session = workplace_.TheSession();
     Host& host = workplace_.TheHost();
-    clsTerrain preview = PreviewTerrain(session, Settings(), host);
+    clsTerrain preview = PreviewTerrain(session.document, session.tools,
+                                        session.settings.ResizeMode, Settings(), host);
     dlgPreview dialog(workplace_.Window());
     dialog.ShowHeights(preview, session.settings.PaletteRow, host);
     host.Busy(false);
@@ -215,7 +217,7 @@ void GeneratorPanel::cmdGenLoadSetting_Click() {
         SettingRequest(QStringLiteral("Load Setting"), session.settings.ProgramFolder));
     if (!chosen)
         return;
-    Show(LoadGenerator(session, chosen->path, lstPerlinSets_->currentRow()));
+    Show(LoadGenerator(session.tools, chosen->path, lstPerlinSets_->currentRow()));
     workplace_.TheHost().ActualScreen();
 }
 

@@ -23,9 +23,6 @@ class GeneratorPanel : public QWidget {
     /// Fills the list of the Perlin sets and selects row 0.
     void LoadPerlinList();
 
-    /// The seed as its text stands.
-    std::string SeedText() const;
-
     /// Brings the controls into line with the session.
     void Refresh();
 

@@ -3,17 +3,15 @@
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <array>
 #include <utility>
 
 #include "base/NumberText.h"
-#include "base/Stdio.h"
 #include "shell/LandscapeArea.h"
+#include "terrain/HeightsChange.h"
 #include "ui/controls/Controls.h"
 #include "ui/controls/NumberField.h"
-#include "ui/controls/ShownNumber.h"
 #include "ui/dialogs/Messages.h"
 
 namespace quillbrand {
@@ -47,12 +45,9 @@ Field* MakeField(const char* name, const char* text, const char* toolTip) {
     return field;
 }
 
-QString Shown(double number, const char* pattern) {
-    return ShownNumber([&] { return Format(number, pattern); });
-}
-
 /// A field that was entered by Tab stays selected, for the next key to replace what it holds.
-void Renew(QLineEdit* field, const QString& text) {
+void Renew(QLineEdit* field, const std::string& shown) {
+    const QString text = QString::fromStdString(shown);
     if (field->text() == text)
         return;
     const bool wasSelected = field->hasSelectedText() && field->selectedText() == field->text();
@@ -71,12 +66,8 @@ GlobalPanel::GlobalPanel(Workplace& workplace, QWidget* parent)
     layout->addWidget(BuildPlanetaryContext());
     layout->addWidget(BuildLandscapeArea());
     layout->addStretch();
-    leaving_ = new QTimer(this);
-    connect(leaving_, &QTimer::timeout, this, [this] {
-        if (!workplace_.TheSession().TerrainBusy)
-            FinishLeaving();
-    });
     connect(chkCurved_, &QCheckBox::clicked, this, &GlobalPanel::chkCurved_Click);
+    connect(optTerSize_, &QButtonGroup::idClicked, this, &GlobalPanel::TakeChosenSize);
     ConnectFields();
 }
 
@@ -186,39 +177,49 @@ void GlobalPanel::ConnectFields() {
 }
 
 /// A field can need a message box when it is left, which must not come up amid a press of the mouse
-/// or a change of tabs. So its text is taken now and acts when these are through.
+/// or a change of tabs, and not while a command runs. So its text is taken now and acts when these
+/// are through.
 void GlobalPanel::LeaveSoon(std::function<void()> leave) {
-    FinishLeaving();
-    leave_ = std::move(leave);
-    leaving_->start(0);
+    leaves_.push_back(std::move(leave));
+    workplace_.TheHost().WhenIdle([this] { FinishLeaving(); });
 }
 
 /// Before anything else that the user does here.
 void GlobalPanel::FinishLeaving() {
-    leaving_->stop();
-    if (const auto leave = std::exchange(leave_, nullptr))
+    while (!workplace_.TheHost().CommandRuns() && !leaves_.empty()) {
+        const auto leave = std::move(leaves_.front());
+        leaves_.erase(leaves_.begin());
         leave();
+    }
 }
 
 void GlobalPanel::Change(const QString& command, const std::function<void(clsTerrain&)>& change) {
-    Host& host = workplace_.TheHost();
-    RunCommand(workplace_.Window(), host, command,
-               [&] { change(workplace_.TheSession().document.CurrentTerrain); });
+    WindowHost& host = workplace_.TheHost();
+    Document& document = workplace_.TheSession().document;
+    RunCommand(workplace_.Window(), host, command, [&] {
+        HeightsChange step(document, command.toStdString());
+        change(document.CurrentTerrain);
+        step.Commit();
+    });
     host.ActualScreen();
 }
 
 void GlobalPanel::Refresh() {
     clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
-    const double scale = terrain.ScaleT();
-    Renew(txtMetersPoint_, Shown(STDIO::ClampValue(1.0, 100.0, scale), "#####.###"));
-    Renew(txtMinTerrain_, Shown(terrain.MinTU() * scale, "#######0"));
-    Renew(txtMaxTerrain_, Shown(terrain.MaxTU() * scale, "#######0"));
-    Renew(txtPlanetRadius_, Shown(terrain.CRAD(), "#####0"));
-    Renew(txtTerSizeMeters_, Shown(terrain.Size() * scale, "######0"));
+    const LandscapeFields fields = FieldsOf(terrain);
+    Renew(txtMetersPoint_, fields.spacing);
+    Renew(txtMinTerrain_, fields.texts.lowest);
+    Renew(txtMaxTerrain_, fields.texts.highest);
+    Renew(txtPlanetRadius_, fields.radius);
+    Renew(txtTerSizeMeters_, fields.texts.side);
     // What the terrain brings is no edit of the user's.
     oldSizeText_ = txtTerSizeMeters_->text();
     chkCurved_->setChecked(terrain.CRVM() != 0);
     terrain.FixHeight(chkFixHeight_->isChecked());
+}
+
+void GlobalPanel::ShowFixHeight() {
+    chkFixHeight_->setChecked(workplace_.TheSession().document.CurrentTerrain.FixHeight());
 }
 
 void GlobalPanel::TickSize(int size) {
@@ -230,11 +231,13 @@ void GlobalPanel::TickSize(int size) {
     for (QAbstractButton* option : optTerSize_->buttons())
         if (option->property("Tag").toInt() == size)
             option->setChecked(true);
+    TakeChosenSize();
 }
 
-std::optional<int> GlobalPanel::ChosenSize() const {
+void GlobalPanel::TakeChosenSize() {
     const QAbstractButton* option = optTerSize_->checkedButton();
-    return option != nullptr ? std::optional(option->property("Tag").toInt()) : std::nullopt;
+    workplace_.TheSession().tools.chosenSize =
+        option != nullptr ? std::optional(option->property("Tag").toInt()) : std::nullopt;
 }
 
 double GlobalPanel::PlanetRadius() const {
@@ -254,7 +257,9 @@ QString GlobalPanel::HighestText() const {
 }
 
 void GlobalPanel::chkCurved_Click(bool ticked) {
-    workplace_.TheSession().document.CurrentTerrain.CRVM(ticked ? 1 : 0);
+    FinishLeaving();
+    Change(QStringLiteral("curved Terrain"),
+           [ticked](clsTerrain& terrain) { terrain.CRVM(ticked ? 1 : 0); });
 }
 
 void GlobalPanel::cmdEarth_Click() {

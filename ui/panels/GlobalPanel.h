@@ -4,13 +4,13 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "ui/Workplace.h"
 
 class QButtonGroup;
 class QCheckBox;
 class QLineEdit;
-class QTimer;
 
 namespace quillbrand {
 
@@ -26,11 +26,12 @@ class GlobalPanel : public QWidget {
     /// Shows the terrain's header values, and hands the state of "fix Height" to the terrain.
     void Refresh();
 
-    /// Ticks the option of `size` intervals and no other; none where none fits.
-    void TickSize(int size);
+    /// Ticks "fix Height" as the terrain has it: Refresh does the opposite.
+    void ShowFixHeight();
 
-    /// The intervals of the option that is ticked, or nothing.
-    std::optional<int> ChosenSize() const;
+    /// Ticks the option of `size` intervals and no other; none where none fits. The tools know
+    /// which one is ticked.
+    void TickSize(int size);
 
     /// What the planet's fields hold: kilometres, and whether the terrain is curved.
     double PlanetRadius() const;
@@ -46,6 +47,7 @@ class GlobalPanel : public QWidget {
     QWidget* BuildLandscapeArea();
 
     void ConnectFields();
+    void TakeChosenSize();
     void LeaveSoon(std::function<void()> leave);
     void FinishLeaving();
     void Change(const QString& command, const std::function<void(clsTerrain&)>& change);
@@ -72,8 +74,7 @@ class GlobalPanel : public QWidget {
     NumberField* txtMaxTerrain_;
     QCheckBox* chkFixHeight_;
     QString oldSizeText_;
-    QTimer* leaving_;
-    std::function<void()> leave_;  ///< what leaving_ runs: a field's last word
+    std::vector<std::function<void()>> leaves_;  ///< the last words of fields, still to be heard
 };
 
 }  // namespace quillbrand

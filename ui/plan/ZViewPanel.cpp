@@ -62,7 +62,8 @@ void ZViewPanel::ConnectControls() {
     connect(SldYView_, &QSlider::valueChanged, this, [this](int value) { Move(value, 0); });
     connect(chkRealViewZ_, &QCheckBox::clicked, this, &ZViewPanel::Reopen);
     connect(PicZView_, &PictureBox::Clicked, this, &ZViewPanel::Reopen);
-    connect(PicZView_, &PictureBox::MouseMove, this, &ZViewPanel::ThumbnailMouseMove);
+    connect(PicZView_, &PictureBox::MouseMove, this,
+            [this](const PlanMouse& mouse) { emit ThumbnailMouseMove(mouse.place); });
 }
 
 /// The thumbnail with a slider along each side.
@@ -140,15 +141,14 @@ void ZViewPanel::SetAltitudes(const QString& low, const QString& high) {
 }
 
 void ZViewPanel::Move(int position, int axis) {
-    if (!RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Z-View"),
-                    [this, position, axis] { ZView(position, axis); }))
+    if (RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Z-View"),
+                   [this, position, axis] { ZView(position, axis); }) == Ended::WithFault)
         emit Leave();
 }
 
 void ZViewPanel::Open(const Picture& plan) {
-    PicZView_->Raster() = plan;
+    PicZView_->SetRaster(plan);
     PicZView_->SetUnits(workplace_.TheSession().document.CurrentTerrain.Size());
-    PicZView_->update();
     DrawColourBar();
     const int last = std::max(1, workplace_.TheSession().document.CurrentTerrain.Size() - 1);
     for (QSlider* slider : {sldXView_, SldYView_}) {
@@ -163,8 +163,7 @@ void ZViewPanel::DrawColourBar() {
     const auto& strip = PaletteStrip(workplace_.TheSession().settings.PaletteRow);
     for (int i = 0; i <= PaletteMax; ++i)
         *bar.Row(i) = strip[static_cast<std::size_t>(PaletteMax - i)];
-    PicColor_->Raster() = bar;
-    PicColor_->update();
+    PicColor_->SetRaster(std::move(bar));
 }
 
 void ZViewPanel::ZView(int position, int axis) {
@@ -185,8 +184,7 @@ void ZViewPanel::ZView(int position, int axis) {
         return;
     }
     DrawSection(picture, terrain, section, range);
-    frmZView_->Raster() = picture;
-    frmZView_->update();
+    frmZView_->SetRaster(std::move(picture));
     lblViewFrom_->setText(axis == 0 ? QStringLiteral("X") : QStringLiteral("Y"));
 }
 

@@ -35,7 +35,7 @@ class ZViewPanel : public QWidget {
     void Leave();
 
     /// The mouse over the thumbnail, in grid units.
-    void ThumbnailMouseMove(double x, double y);
+    void ThumbnailMouseMove(QPointF place);
 
   private:
     QWidget* BuildSection();

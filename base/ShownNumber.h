@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <string>
 
 #include "base/Fault.h"
 
@@ -9,11 +9,11 @@ namespace quillbrand {
 /// The text that `makeText` gives, or "?" where it faults: a file may hold any scale, and a field
 /// that cannot show it must not end what runs.
 template <typename MakeText>
-QString ShownNumber(MakeText makeText) {
+std::string ShownNumber(MakeText makeText) {
     try {
-        return QString::fromStdString(makeText());
+        return makeText();
     } catch (const Fault&) {
-        return QStringLiteral("?");
+        return "?";
     }
 }
 
