@@ -14,6 +14,15 @@ namespace quillbrand {
 
 static_assert(std::endian::native == std::endian::little, "the file formats are little-endian");
 
+/// The little-endian value at `offset`, or 0 where the bytes do not hold all of it.
+template <typename Value>
+Value ValueAt(std::span<const std::byte> bytes, std::size_t offset) {
+    Value value{};
+    if (bytes.size() >= sizeof value && offset <= bytes.size() - sizeof value)
+        std::memcpy(&value, bytes.data() + offset, sizeof value);
+    return value;
+}
+
 /// Reads little-endian values at given offsets of a file's bytes and checks each against what is
 /// there. `name` is how the file is called in a Fault, normally its path.
 class ByteReader {

@@ -82,6 +82,9 @@ class SquareArray {
     std::int32_t& operator()(int i, int j) { return Row(j)[i]; }
     std::int32_t operator()(int i, int j) const { return Row(j)[i]; }
 
+    /// Its memory, row after row. The array is of no use afterwards.
+    GridBuffer<std::int32_t> TakeCells() && { return std::move(cells_); }
+
     /// The cells (0..Upper(), j).
     std::int32_t* Row(int j) { return cells_.data() + static_cast<std::size_t>(j) * (upper_ + 1); }
     const std::int32_t* Row(int j) const {

@@ -1,8 +1,6 @@
 #include "base/IniFile.h"
 
-// Bytes stay as they are until a value is asked for.
-#define SI_NO_CONVERSION
-#include <SimpleIni.h>
+#include <algorithm>
 
 #include "base/Fault.h"
 #include "base/Files.h"
@@ -25,51 +23,31 @@ std::string WithoutQuotes(const std::string& text) {
 
 }  // namespace
 
-struct IniFile::Content {
-    /// Of keys that stand several times the first counts.
-    CSimpleIniA ini{false, true, false};
-    std::string text;      ///< what `ini` was read from, byte by byte
-    std::string tail;      ///< what stands behind the first NUL, which nobody reads
-    std::string tooLarge;  ///< the file of which only the beginning was read, or nothing
-
-    void Read() {
-        ini.Reset();
-        ini.LoadData(text);
-    }
-};
-
-IniFile::IniFile() : content_(std::make_unique<Content>()) {}
-IniFile::~IniFile() = default;
-IniFile::IniFile(IniFile&&) noexcept = default;
-IniFile& IniFile::operator=(IniFile&&) noexcept = default;
-
 IniFile IniFile::Parse(std::span<const std::byte> bytes) {
     IniFile file;
-    std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    const std::string text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
     const std::size_t end = std::min(text.find('\0'), text.size());
-    file.content_->tail = text.substr(end);
-    text.resize(end);
-    file.content_->text = std::move(text);
-    file.content_->Read();
+    file.text_ = text.substr(0, end);
+    file.tail_ = text.substr(end);
     return file;
 }
 
 IniFile IniFile::Read(const std::filesystem::path& path) {
-    if (!STDIO::FileExists(path))
-        return {};
+    return STDIO::FileExists(path) ? ReadExisting(path) : IniFile();
+}
+
+IniFile IniFile::ReadExisting(const std::filesystem::path& path) {
     const Bytes bytes = ReadFile(path, mostBytes + 1);
     IniFile file = Parse(bytes);
     if (bytes.size() > mostBytes)
-        file.content_->tooLarge = path.string();
+        file.tooLarge_ = path.string();
     return file;
 }
 
 std::string IniFile::Get(const std::string& section, const std::string& key,
                          const std::string& defaultValue, std::size_t buffer) const {
-    const char* value = content_->ini.GetValue(section.c_str(), key.c_str());
-    if (value == nullptr)
-        return defaultValue;
-    return TrimIni(ToUtf8(WithoutQuotes(value)).substr(0, buffer - 1));
+    const auto value = IniValue(text_, section, key);
+    return value ? TrimIni(ToUtf8(WithoutQuotes(*value)).substr(0, buffer - 1)) : defaultValue;
 }
 
 void IniFile::Set(const std::string& section, const std::string& key, const std::string& value) {
@@ -79,15 +57,14 @@ void IniFile::Set(const std::string& section, const std::string& key, const std:
     // One pair of quotes is lost on reading.
     if (const std::string bare = TrimIni(stored); WithoutQuotes(bare) != bare)
         stored = '"' + bare + '"';
-    SetIniValue(content_->text, section, key, stored);
-    content_->Read();
+    SetIniValue(text_, section, key, stored);
 }
 
 std::string IniFile::Text() const {
-    if (!content_->tooLarge.empty())
-        throw Fault("cannot change " + content_->tooLarge + ": with more than " +
-                    std::to_string(mostBytes) + " bytes it is no settings file");
-    return content_->text + content_->tail;
+    if (!tooLarge_.empty())
+        throw Fault("cannot change " + tooLarge_ + ": with more than " + std::to_string(mostBytes) +
+                    " bytes it is no settings file");
+    return text_ + tail_;
 }
 
 void IniFile::Write(const std::filesystem::path& path) const {

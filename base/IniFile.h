@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <memory>
 #include <span>
 #include <string>
 
@@ -14,16 +13,16 @@ namespace quillbrand {
 class IniFile {
   public:
     /// An empty file.
-    IniFile();
-    ~IniFile();
-    IniFile(IniFile&&) noexcept;
-    IniFile& operator=(IniFile&&) noexcept;
+    IniFile() = default;
 
     /// What `bytes` hold; lines that make no sense are passed over. Never fails.
     static IniFile Parse(std::span<const std::byte> bytes);
 
     /// Reads the file. One that does not exist reads as empty; any other trouble is a Fault.
     static IniFile Read(const std::filesystem::path& path);
+
+    /// The same, but one that does not exist is a Fault too.
+    static IniFile ReadExisting(const std::filesystem::path& path);
 
     /// The value of a key as a reader with a buffer of `buffer` characters gets it: cut to what
     /// fits beside a closing NUL, cut at its first NUL, without quotes around it, trimmed.
@@ -42,8 +41,9 @@ class IniFile {
     void Write(const std::filesystem::path& path) const;
 
   private:
-    struct Content;
-    std::unique_ptr<Content> content_;
+    std::string text_;      ///< byte by byte
+    std::string tail_;      ///< what stands behind the first NUL, which nobody reads
+    std::string tooLarge_;  ///< the file of which only the beginning was read, or nothing
 };
 
 }  // namespace quillbrand

@@ -31,7 +31,7 @@ struct Entry {
     std::size_t end = 0;  ///< of the line, and of the value
 };
 
-/// Goes through a text entry by entry. It must take every text as the reader of IniFile does.
+/// Goes through a text entry by entry.
 class Scanner {
   public:
     explicit Scanner(const std::string& text) : text_(text) {
@@ -58,7 +58,7 @@ class Scanner {
         place_ = text_.find_first_of("]\r\n", begin);
         if (place_ == npos || text_[place_] != ']') {
             place_ = std::min(place_, text_.size());
-            // To the reader, what follows belongs to a section that nobody can name.
+            // What follows belongs to a section that nobody can name.
             entry_.section = "\n";
             return false;
         }
@@ -93,6 +93,18 @@ std::string LineEndOf(const std::string& text) {
 }
 
 }  // namespace
+
+std::optional<std::string> IniValue(const std::string& text, const std::string& section,
+                                    const std::string& key) {
+    Scanner scanner(text);
+    while (const auto entry = scanner.Next())
+        if (!entry->key.empty() && EqualIgnoringCase(entry->section, section) &&
+            EqualIgnoringCase(entry->key, key)) {
+            const std::size_t begin = text.find_first_not_of(blanks, entry->value);
+            return begin < entry->end ? Name(text, begin, entry->end) : std::string();
+        }
+    return std::nullopt;
+}
 
 void SetIniValue(std::string& text, const std::string& section, const std::string& key,
                  const std::string& value) {

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "base/Fault.h"
+#include "base/Numbers.h"
 
 namespace quillbrand {
 
@@ -88,6 +88,10 @@ double Val(std::string_view text) {
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     return result.ec == std::errc() ? value : 0;
+}
+
+int ClampedVal(std::string_view text, int low, int high) {
+    return static_cast<int>(RoundHalfEven(std::clamp<double>(Val(text), low, high)));
 }
 
 std::string ShortestText(float number) {

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QPainter>
 #include <limits>
 
 #include "base/Fault.h"
@@ -24,6 +25,16 @@ constexpr int pngCompression = 12;
 QByteArray View(std::span<const std::byte> bytes) {
     return QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
                                    static_cast<qsizetype>(bytes.size()));
+}
+
+/// What is transparent shows the black behind it.
+QImage OnBlack(QImage image) {
+    if (!image.hasAlphaChannel())
+        return std::move(image).convertToFormat(QImage::Format_RGB32);
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(Qt::black);
+    QPainter(&opaque).drawImage(0, 0, image);
+    return opaque;
 }
 
 const char* WriterFormat(const std::filesystem::path& path) {
@@ -63,7 +74,7 @@ Picture Picture::Decode(std::span<const std::byte> bytes, const std::string& nam
     QImage image = reader.read();
     if (image.isNull())
         throw Fault("cannot read the picture " + name + ": " + reader.errorString().toStdString());
-    picture.image_ = std::move(image).convertToFormat(QImage::Format_RGB32);
+    picture.image_ = OnBlack(std::move(image));
     return picture;
 }
 

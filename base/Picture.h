@@ -2,22 +2,13 @@
 
 #include <QImage>
 #include <cstddef>
-#include <cstdint>
 #include <filesystem>
 #include <span>
 #include <string>
 
+#include "base/Colours.h"
+
 namespace quillbrand {
-
-/// A colour as 0x00BBGGRR.
-using Colour = std::int32_t;
-
-/// What a point outside a picture reads as.
-constexpr Colour noColour = -1;
-
-constexpr Colour ColourOf(int red, int green, int blue) {
-    return red | (green << 8) | (blue << 16);
-}
 
 /// A 24-bit raster.
 class Picture {
@@ -41,8 +32,7 @@ class Picture {
     Colour Point(int x, int y) const {
         if (!image_.valid(x, y))
             return noColour;
-        const QRgb pixel = Row(y)[x];
-        return ColourOf(qRed(pixel), qGreen(pixel), qBlue(pixel));
+        return ColourOf(Row(y)[x]);
     }
 
     /// Row y as 0xFFRRGGBB, Width() of them.

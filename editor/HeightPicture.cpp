@@ -8,8 +8,8 @@ namespace quillbrand {
 namespace {
 
 /// HeightToPaletteIndex and the table in one, without the wide sum: heights are limited first.
-void ColourRow(const Height* heights, int count, const QRgb* strip, QRgb* pixels) {
-    for (int x = 0; x < count; ++x) {
+void ColourRow(std::span<const Height> heights, const QRgb* strip, QRgb* pixels) {
+    for (std::size_t x = 0; x < heights.size(); ++x) {
         const int limited = std::clamp<int>(heights[x], INT16_MIN, INT16_MAX);
         pixels[x] = strip[(limited + 32768) >> 8];
     }
@@ -28,7 +28,7 @@ void BuildHeightPicture(Picture& raster, clsTerrain& terrain, int paletteRow, Ho
     terrain.Range();
     const QRgb* const strip = PaletteStrip(paletteRow).data();
     for (int y = 0; y < points; ++y) {
-        ColourRow(terrain.Row(y).data(), points, strip, raster.Row(y));
+        ColourRow(terrain.Row(y, terrain.Points()), strip, raster.Row(y));
         host.Progress(PercentOf(y, points));
         host.Yield();
         if (y == points / 2)

@@ -6,9 +6,9 @@
 
 namespace quillbrand {
 
-/// One pixel a grid point, row 0 at the top, in the colours of palette strip `paletteRow` (0..7).
+/// One pixel a grid point, row 0 at the top, in the colours of palette strip `paletteRow`.
 /// Makes the running extremes of the terrain true. `raster` is used again when its size fits.
-/// The busy flag stays set for the caller to clear.
+/// The busy flag stays set for the caller to clear. Requires: 0 <= paletteRow < paletteRows.
 void BuildHeightPicture(Picture& raster, clsTerrain& terrain, int paletteRow, Host& host);
 
 }  // namespace quillbrand

@@ -1,5 +1,7 @@
 #include "editor/Palette.h"
 
+#include <cassert>
+
 #include "base/Numbers.h"
 
 namespace quillbrand {
@@ -58,12 +60,13 @@ const Strip& PaletteStrip(int row) {
             all[i] = MakeStrip(i);
         return all;
     }();
-    return strips.at(static_cast<std::size_t>(row));
+    assert(row >= 0 && row < paletteRows);
+    return strips[static_cast<std::size_t>(row)];
 }
 
 Colour PaletteTable(int index, int row) {
-    const QRgb colour = PaletteStrip(row).at(static_cast<std::size_t>(index));
-    return ColourOf(qRed(colour), qGreen(colour), qBlue(colour));
+    assert(index >= 0 && index <= PaletteMax);
+    return ColourOf(PaletteStrip(row)[static_cast<std::size_t>(index)]);
 }
 
 }  // namespace quillbrand

@@ -18,10 +18,11 @@ constexpr int paletteRows = 8;
 /// The names of the strips as the list shows them.
 std::span<const std::string_view> PaletteNames();
 
-/// The colour of an index 0..PaletteMax in strip `row`, 0..7.
+/// The colour of an index in strip `row`. Requires: 0 <= index <= PaletteMax, 0 <= row <
+/// paletteRows.
 Colour PaletteTable(int index, int row);
 
-/// A whole strip, as 0xFFRRGGBB.
+/// A whole strip, as 0xFFRRGGBB. Requires: 0 <= row < paletteRows.
 const std::array<QRgb, PaletteMax + 1>& PaletteStrip(int row);
 
 /// The colour index of a raw height: bands of 256 raw units, limited at both ends.

@@ -2,7 +2,6 @@
 
 #include "base/NumberText.h"
 #include "base/Numbers.h"
-#include "base/ShownNumber.h"
 
 namespace quillbrand {
 
@@ -14,10 +13,10 @@ std::optional<std::array<std::string, 5>> PointTexts(const clsTerrain& terrain, 
     const int column = RoundTo32(x);
     const int row = RoundTo32(y);
     return std::array{
-        ShownNumber([&] { return Format(terrain.GetPointTU(column, row), "#####.## TU"); }),
+        ShownText([&] { return Format(terrain.GetPointTU(column, row), "#####.## TU"); }),
         Format(terrain.GetPoint(column, row), "####### Pixel"), "X=" + Format(x, "####"),
         "Y=" + Format(size - y, "####"),
-        ShownNumber([&] { return Format(terrain.GetPointMeters(column, row), "######.### m"); })};
+        ShownText([&] { return Format(terrain.GetPointMeters(column, row), "######.### m"); })};
 }
 
 }  // namespace quillbrand

@@ -27,4 +27,12 @@ int LineWidth(int pixels, int size) {
     return RoundTo32(double(pixels) / size + 1);
 }
 
+int TrailWidth(double zoom) {
+    return RoundTo32(zoom + 1);
+}
+
+int WidthInPoints(int width, int points, int pixels) {
+    return std::max(1, RoundTo32(double(width) * points / pixels));
+}
+
 }  // namespace quillbrand

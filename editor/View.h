@@ -21,4 +21,11 @@ std::string ZoomText(double zoom, int size);
 /// The width of lines drawn on a picture of `pixels` pixels that shows `size` intervals.
 int LineWidth(int pixels, int size);
 
+/// The width of the trail that strokes of tools leave, in pixels of the screen.
+int TrailWidth(double zoom);
+
+/// How many points wide a line must be drawn on a raster of `points` points that is shown in
+/// `pixels` pixels, to be `width` pixels wide there; at least 1.
+int WidthInPoints(int width, int points, int pixels);
+
 }  // namespace quillbrand

@@ -1,5 +1,7 @@
 #include "editor/ZView.h"
 
+#include <cassert>
+
 #include "base/Canvas.h"
 #include "editor/View.h"
 
@@ -27,6 +29,7 @@ double SectionRange(const clsTerrain& terrain, const Section& section, const Pic
 }
 
 void DrawSection(Picture& picture, clsTerrain& terrain, const Section& section, double range) {
+    assert(range != 0 && section.position >= 0 && section.position <= terrain.Size());
     Canvas canvas(picture);
     canvas.Clear(sky);
     canvas.Scale(0, 0, terrain.Size(), range);

@@ -7,7 +7,7 @@ namespace quillbrand {
 
 /// A cross-section through the terrain.
 struct Section {
-    int position;  ///< the row (along x) or the column (along y) that is cut, 1..Size - 1
+    int position;  ///< the row (along x) or the column (along y) that is cut
     bool alongX;   ///< true cuts a row and looks along Y
     bool real;     ///< true to scale in metres instead of filling the picture
 };
@@ -17,7 +17,7 @@ struct Section {
 double SectionRange(const clsTerrain& terrain, const Section& section, const Picture& picture);
 
 /// Draws one vertical line a grid point, 1..Size, from the bottom of the picture up to the height.
-/// `range` is what SectionRange gave and is not 0.
+/// Requires: the section lies in the terrain; `range` is what SectionRange gave and is not 0.
 void DrawSection(Picture& picture, clsTerrain& terrain, const Section& section, double range);
 
 }  // namespace quillbrand

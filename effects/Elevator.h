@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
@@ -16,6 +17,7 @@ constexpr int ElevatorMax = 256;
 /// same time the armed mark of the effect.
 class ElevatorGrid {
   public:
+    /// Requires: 0 <= a, b <= ElevatorMax.
     std::uint8_t& operator()(int a, int b) { return cells_[Index(a, b)]; }
     std::uint8_t operator()(int a, int b) const { return cells_[Index(a, b)]; }
 
@@ -40,7 +42,10 @@ class ElevatorGrid {
 
   private:
     static constexpr int side = ElevatorMax + 1;
-    static std::size_t Index(int a, int b) { return static_cast<std::size_t>(a * side + b); }
+    static std::size_t Index(int a, int b) {
+        assert(a >= 0 && a < side && b >= 0 && b < side);
+        return static_cast<std::size_t>(a * side + b);
+    }
 
     std::array<std::uint8_t, std::size_t{side} * side> cells_{};
 };

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -8,7 +9,6 @@
 #include "base/Fault.h"
 #include "base/Numbers.h"
 #include "effects/ColumnPass.h"
-#include "effects/HeightMap.h"
 #include "effects/QBFilter.h"
 #include "terrain/RowKernels.h"
 
@@ -119,7 +119,7 @@ class ElevatorPass {
         for (int y = rect_.y0; y <= rect_.y1; ++y) {
             Report(y);
             const auto row = writer_.UnmeasuredRow(y);
-            MapHeights(row, lowest_, images_.data());
+            MapHeights(row, lowest_, images_);
             Extremes found;
             FindExtremes(row, found);
             if (found.low == noMark)
@@ -213,6 +213,7 @@ class Disarmed {
 
 void FilterElevatorShift(clsTerrain& terrain, float& /*strength*/, const Area& area,
                          Elevator& elevator, Host& host) {
+    assert(area.extent);
     host.Status("Elevator shift...");
     host.Busy(true);
     if (!elevator.grid.IsArmed())

@@ -10,28 +10,28 @@ namespace quillbrand {
 
 namespace {
 
-/// The bell along one side, before its height.
-double Bell(double p, double o, double side) {
-    const double a = ((p - o) - side / 2) / (side / 8);
-    return std::exp(-(a * a) / 2);
-}
-
 float Weigh(double gx, double gy) {
     return static_cast<float>(gx * 0.3 * 0.3 * gy * 4.0);
 }
 
 }  // namespace
 
+double GaussBell(double p, double o, double side) {
+    const double a = ((p - o) - side / 2) / (side / 8);
+    return std::exp(-(a * a) / 2);
+}
+
 float GaussWeight(double px, double py, double ox, double oy, double w, double h) {
-    return Weigh(Bell(px, ox, w), Bell(py, oy, h));
+    return Weigh(GaussBell(px, ox, w), GaussBell(py, oy, h));
 }
 
 /// Both sides share one row of bells: the same numbers as from GaussWeight, with fewer
 /// exponentials.
 GaussTable::GaussTable(int n) : upper_(n) {
+    assert(n > 0);
     std::vector<double> bells;
     for (int i = 0; i <= n; ++i)
-        bells.push_back(Bell(i, 0, n));
+        bells.push_back(GaussBell(i, 0, n));
     weights_.reserve(bells.size() * bells.size());
     for (const double gx : bells)
         for (const double gy : bells)

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -52,6 +53,7 @@ class ErodeBrush {
     explicit ErodeBrush(int radius)
         : first_(static_cast<int>(std::floor(-radius / 2.0))),
           side_(static_cast<int>(std::floor(radius / 2.0)) - first_ + 1) {
+        assert(radius > 0);
         for (int i = 0; i < side_; ++i)
             for (int j = 0; j < side_; ++j)
                 weights_.push_back(GaussWeight(i, j, 0, 0, radius, radius));

@@ -78,7 +78,7 @@ void ApplyEffect(int code, clsTerrain& terrain, float strength, const Area& area
 
 /// One forward and one backward sweep of the mean of a point and its four diagonal neighbours, in
 /// place. Below a strength of 3 nothing happens at all; otherwise the strength changes nothing but
-/// itself: even whole numbers become odd, and it is limited to 1..10. Needs an extent.
+/// itself: even whole numbers become odd, and it is limited to 1..10. Requires: an extent.
 void FilterSmooth(clsTerrain& terrain, float& strength, const Area& area, Host& host);
 
 /// Heights scaled to the full range, then each taken times its own size, then stretched to the full
@@ -102,13 +102,13 @@ void FilterInvert(clsTerrain& terrain, float& strength, const Area& area, Host& 
 void FilterNoise(clsTerrain& terrain, float& strength, const Area& area, Host& host);
 
 /// Every height through the elevator's curve, if it is armed; it is armed afterwards. A column
-/// without a mark repeats what the point before became. The strength is not used. Needs an extent.
-/// Throws Fault for a height that the curve does not reach.
+/// without a mark repeats what the point before became. The strength is not used. Throws Fault for
+/// a height that the curve does not reach. Requires: an extent.
 void FilterElevatorShift(clsTerrain& terrain, float& strength, const Area& area, Elevator& elevator,
                          Host& host);
 
 /// Adds the relief of the river bed's picture, divided by 11 less the rounded strength. Limits are
-/// not used. Needs an extent.
+/// not used. Requires: an extent.
 void FilterRiverErosion(clsTerrain& terrain, float& strength, const Area& area, RiverBed& bed,
                         Host& host);
 

@@ -1,6 +1,7 @@
 #include "effects/QBTools2.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "base/Fault.h"
 #include "base/Files.h"
@@ -60,6 +61,7 @@ std::string LoadElevatorSet(Elevator& elevator, int index) {
 }
 
 void WriteElevatorSet(Elevator& elevator, Bytes& file, int index, const std::string& name) {
+    assert(index >= 1 && index <= mostElevatorSets);
     for (int a = 0; a <= ElevatorMax; ++a)
         for (int b = 0; b < ElevatorMax; ++b)
             if (elevator.grid(a, b) == 1)

@@ -28,7 +28,7 @@ std::string LoadElevatorSet(Elevator& elevator, int index);
 /// with the old file untouched.
 void SaveElevatorSet(Elevator& elevator, int index, const std::string& name);
 
-/// The same from and to the bytes of a file; `index` is 1 or more for writing.
+/// The same from and to the bytes of a file. Writing requires: `index` lies in 1..mostElevatorSets.
 std::string ReadElevatorSet(Elevator& elevator, std::span<const std::byte> file, int index);
 void WriteElevatorSet(Elevator& elevator, Bytes& file, int index, const std::string& name);
 

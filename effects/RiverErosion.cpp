@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -120,6 +121,7 @@ void RequireRoom(const clsTerrain& terrain, const GridRect& rect, Height most) {
 
 void FilterRiverErosion(clsTerrain& terrain, float& strength, const Area& area, RiverBed& bed,
                         Host& host) {
+    assert(area.extent);
     const int extent = area.extent.value();
     host.Status("erode...");
     host.Busy(true);

@@ -5,9 +5,9 @@
 
 #include "base/Fault.h"
 #include "base/Numbers.h"
-#include "effects/HeightMap.h"
 #include "effects/QBFilter.h"
 #include "terrain/HeightWriter.h"
+#include "terrain/RowKernels.h"
 
 namespace quillbrand::QBFilter {
 
@@ -151,7 +151,7 @@ class TwoPasses {
                 static_cast<std::size_t>(y <= measured_.y1 ? measured_.Columns() : 0);
             const auto measured = row.first(count);
             if (!images_.empty())
-                MapHeights(measured, lowest_, images_.data());
+                MapHeights(measured, lowest_, images_);
             else
                 for (Height& h : measured)
                     h = Image(h, curve_(f_, h));

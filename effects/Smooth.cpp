@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <cstdint>
 
@@ -168,6 +169,7 @@ float AdjustedStrength(float strength) {
 }  // namespace
 
 void FilterSmooth(clsTerrain& terrain, float& strength, const Area& area, Host& host) {
+    assert(area.extent);
     if (strength < 3.0f)
         return;
     host.Status("smoothes....");

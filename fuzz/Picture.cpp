@@ -4,7 +4,7 @@
 
 #include "base/Fault.h"
 #include "fuzz/Target.h"
-#include "generator/NoisePictures.h"
+#include "terrain/ReliefPicture.h"
 
 using namespace quillbrand;
 
@@ -15,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const int bottom = picture.Height() - 1;
         Require(picture.Point(right, bottom) != noColour, "a picture has points");
         Require(picture.Point(right + 1, bottom) == noColour, "beyond its points is nothing");
-        const NoisePicture numbers(picture);
+        const ReliefPicture numbers(picture);
         Require(numbers.At(right, bottom) == picture.Point(right, bottom) >> 8,
                 "green and blue are the number");
     } catch (const Fault&) {

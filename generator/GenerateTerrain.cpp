@@ -8,9 +8,8 @@
 #include "base/NumberText.h"
 #include "base/Numbers.h"
 #include "effects/QBFilter.h"
-#include "generator/DoubleGrid.h"
-#include "generator/NoisePictures.h"
 #include "generator/Overlay.h"
+#include "terrain/Doubling.h"
 #include "terrain/ScaleTerrainStep.h"
 #include "terrain/TerrainGuard.h"
 
@@ -23,7 +22,7 @@ constexpr int scaleMargin = 4;
 
 /// A picture as a layer reads it.
 struct LayerSource {
-    const NoisePicture* picture;
+    const ReliefPicture* picture;
     int scaleHeight;
 };
 
@@ -111,9 +110,9 @@ Relief MakeRelief(int size, const GeneratorSettings& settings, const GeneratorCo
     const NoisePictures pictures = LoadNoisePictures(
         context.sets.folder, context.sets.rows[static_cast<std::size_t>(settings.set)]);
 
-    const NoisePicture imported = context.importedPicture != nullptr
-                                      ? NoisePicture(*context.importedPicture)
-                                      : NoisePicture();
+    const ReliefPicture imported = context.importedPicture != nullptr
+                                       ? ReliefPicture(*context.importedPicture)
+                                       : ReliefPicture();
     std::array<LayerSource, 6> sources{{{&imported, imported.Height()}}};
     for (std::size_t i = 0; i < pictures.size(); ++i)
         sources[i + 1] = {pictures[i].get(), pictures[i]->Height() - scaleMargin};
@@ -128,9 +127,15 @@ Relief MakeRelief(int size, const GeneratorSettings& settings, const GeneratorCo
     return {std::move(grid), enlarging};
 }
 
-/// GenerateTerrain without its way back.
-void Generate(clsTerrain& terrain, int size, const GeneratorSettings& settings,
-              const GeneratorContext& context, Host& host) {
+}  // namespace
+
+std::span<const int> GeneratorSizes() {
+    static constexpr std::array sizes{128, 256, 512, 1024, 2048};
+    return sizes;
+}
+
+void GenerateTerrain(clsTerrain& terrain, int size, const GeneratorSettings& settings,
+                     const GeneratorContext& context, Host& host) {
     const Relief relief = MakeRelief(size, settings, context, host);
     host.Busy(true);
     host.Status("calculate Terrain .......");
@@ -143,20 +148,6 @@ void Generate(clsTerrain& terrain, int size, const GeneratorSettings& settings,
     host.Yield();
 }
 
-}  // namespace
-
-std::span<const int> GeneratorSizes() {
-    static constexpr std::array sizes{128, 256, 512, 1024, 2048};
-    return sizes;
-}
-
-void GenerateTerrain(clsTerrain& terrain, int size, const GeneratorSettings& settings,
-                     const GeneratorContext& context, Host& host) {
-    TerrainGuard guard(terrain);
-    Generate(terrain, size, settings, context, host);
-    guard.Commit();
-}
-
 void ProduceTerrain(clsTerrain& current, int size, const GeneratorSettings& settings,
                     const GeneratorContext& context, Host& host) {
     host.Status("Generate Terrain.....");
@@ -165,7 +156,7 @@ void ProduceTerrain(clsTerrain& current, int size, const GeneratorSettings& sett
     TerrainGuard guard(current);
     if (settings.clearTerrain)
         current.Init(size + 1);
-    Generate(current, size, settings, context, host);
+    GenerateTerrain(current, size, settings, context, host);
     host.Status("Add Terrain ....");
     host.Busy(true);
     host.Progress(0);
@@ -179,7 +170,7 @@ clsTerrain PreviewOf(const clsTerrain& current, bool currentIsEmpty,
     const int points = settings.finerStructures ? 257 : 129;
     clsTerrain preview;
     preview.Init(points);
-    Generate(preview, points, settings, context, host);
+    GenerateTerrain(preview, points, settings, context, host);
     if (!settings.clearTerrain && !currentIsEmpty) {
         host.Busy(true);
         host.Status("add terrain with preview.....");

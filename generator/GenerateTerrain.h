@@ -26,8 +26,8 @@ std::span<const int> GeneratorSizes();
 /// Adds up windows of the set's pictures, enlarges the sum to `size` intervals, lays it over the
 /// heights of `terrain`, smooths it when it was enlarged, and scales it. The grid keeps its size.
 /// `size` is one of GeneratorSizes(), or the width of the working grid (129, 257) for a preview.
-/// Throws Fault, with `terrain` unchanged, when there are no sets, a picture cannot be read or a
-/// height leaves 32 bits.
+/// Throws Fault when there are no sets, a picture cannot be read or a height leaves 32 bits; the
+/// heights are then in any state.
 void GenerateTerrain(clsTerrain& terrain, int size, const GeneratorSettings& settings,
                      const GeneratorContext& context, Host& host);
 

@@ -1,11 +1,8 @@
 #include "generator/GeneratorSettings.h"
 
-#include <cmath>
+#include <cstdint>
 
-#include "base/Fault.h"
 #include "base/NumberText.h"
-#include "base/Numbers.h"
-#include "base/Stdio.h"
 
 namespace quillbrand {
 
@@ -13,14 +10,8 @@ namespace {
 
 constexpr auto section = "Generator";
 
-/// The value of a key as a whole number, however large it stands in the file.
-int WholeNumber(const IniFile& file, const char* key) {
-    const double value = Val(file.Get(section, key, "0", 255));
-    return static_cast<int>(RoundHalfEven(STDIO::ClampValue(-2147483648.0, 2147483647.0, value)));
-}
-
-int Limited(const IniFile& file, const char* key, int low, int high) {
-    return STDIO::ClampValue(low, high, WholeNumber(file, key));
+std::string Text(const IniFile& file, const char* key) {
+    return file.Get(section, key, "0", 255);
 }
 
 }  // namespace
@@ -28,23 +19,21 @@ int Limited(const IniFile& file, const char* key, int low, int high) {
 LoadedGeneratorSettings ReadGeneratorSettings(const IniFile& file, int presentRow, int rows) {
     LoadedGeneratorSettings loaded{};
     GeneratorSettings& settings = loaded.settings;
-    const int row = WholeNumber(file, "Perlin");
+    const int row = ClampedVal(Text(file, "Perlin"));
     settings.set = row >= 0 && row < rows ? row : presentRow;
-    settings.iterations = Limited(file, "iteration", 1, 11);
-    settings.height = Limited(file, "Height", 1, 100);
-    settings.structure = Limited(file, "Structure", 0, 4);
-    settings.seed = file.Get(section, "RndSeed", "0", 255);
-    loaded.modify = LimitTo16(WholeNumber(file, "modify"));
-    settings.finerStructures = Limited(file, "HighRes", 0, 1) == 1;
-    settings.roughness = Limited(file, "rougness", 0, 10);
+    settings.iterations = ClampedVal(Text(file, "iteration"), 1, 11);
+    settings.height = ClampedVal(Text(file, "Height"), 1, 100);
+    settings.structure = ClampedVal(Text(file, "Structure"), 0, 4);
+    settings.seed = Text(file, "RndSeed");
+    loaded.modify = ClampedVal(Text(file, "modify"), INT16_MIN, INT16_MAX);
+    settings.finerStructures = ClampedVal(Text(file, "HighRes"), 0, 1) == 1;
+    settings.roughness = ClampedVal(Text(file, "rougness"), 0, 10);
     return loaded;
 }
 
 LoadedGeneratorSettings LoadGeneratorSettings(const std::filesystem::path& path, int presentRow,
                                               int rows) {
-    if (!STDIO::FileExists(path))
-        throw Fault("cannot read " + path.string() + ": No such file or directory");
-    return ReadGeneratorSettings(IniFile::Read(path), presentRow, rows);
+    return ReadGeneratorSettings(IniFile::ReadExisting(path), presentRow, rows);
 }
 
 void SaveGeneratorSettings(const std::filesystem::path& path, const GeneratorSettings& settings,

@@ -21,8 +21,11 @@ struct GeneratorSettings {
     bool clearTerrain = false;  ///< not part of a settings file
 };
 
-/// Overlay modes: how a new height meets the old one. Other numbers leave the terrain as it is.
-enum ModifyModes : int { none, Add, Subtraction, Multiplication, Division, highest, lowest };
+/// Overlay modes: how a new height meets the old one. A file can hold any number; others than these
+/// leave the terrain as it is.
+namespace ModifyModes {
+enum : int { none, Add, Subtraction, Multiplication, Division, highest, lowest };
+}
 
 /// What the modes are called, by number.
 constexpr std::array<std::string_view, 7> modifyCaptions = {

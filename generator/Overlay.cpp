@@ -1,6 +1,7 @@
 #include "generator/Overlay.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <string>
 
@@ -80,18 +81,18 @@ using RowFunction = bool (*)(Height*, const std::int32_t*, int, double);
 /// Null for a mode that leaves the terrain as it is.
 RowFunction FunctionOf(int mode) {
     switch (mode) {
-        case none:
-        case Add:
+        case ModifyModes::none:
+        case ModifyModes::Add:
             return AddRow;
-        case Subtraction:
+        case ModifyModes::Subtraction:
             return SubtractRow;
-        case Multiplication:
+        case ModifyModes::Multiplication:
             return MultiplyRow;
-        case Division:
+        case ModifyModes::Division:
             return DivideRow;
-        case highest:
+        case ModifyModes::highest:
             return HighestRow;
-        case lowest:
+        case ModifyModes::lowest:
             return LowestRow;
         default:
             return nullptr;
@@ -102,7 +103,7 @@ RowFunction FunctionOf(int mode) {
     const std::string row = " in row " + std::to_string(y);
     const bool byZero = std::any_of(relief, relief + count,
                                     [factor](std::int32_t z) { return factor * z + 1.0 == 0; });
-    if (mode == Division && byZero)
+    if (mode == ModifyModes::Division && byZero)
         throw Fault("division by zero while the terrains are divided" + row);
     throw Fault("overflow: a combined height" + row + " does not fit into 32 bits");
 }
@@ -110,21 +111,21 @@ RowFunction FunctionOf(int mode) {
 /// The preview's own formulas, which multiply by the percentage before they divide it by 100.
 double CombinePreview(double t, double p, double h, int mode) {
     switch (mode) {
-        case Add:
+        case ModifyModes::Add:
             return t + h * p / 100;
-        case Subtraction:
+        case ModifyModes::Subtraction:
             return t - h * p / 100;
-        case Multiplication:
+        case ModifyModes::Multiplication:
             return h * (p * t) / 100;
-        case Division: {
+        case ModifyModes::Division: {
             const double divisor = 1 + h * p / 100;
             if (divisor == 0)
                 throw Fault("division by zero while the terrains are divided");
             return t / divisor;
         }
-        case highest:
+        case ModifyModes::highest:
             return STDIO::MaxValue(t, h / 100 * p);
-        case lowest:
+        case ModifyModes::lowest:
             return STDIO::MinValue(t, h / 100 * p);
         default:
             return p;
@@ -139,6 +140,7 @@ void OverlayRelief(clsTerrain& terrain, const SquareArray& relief, int size, int
     if (combine == nullptr)
         return;
     const int last = std::min(size + 1, terrain.Size() + 2);
+    assert(relief.Upper() >= last);
     const double factor = height / 100.0;
     HeightWriter writer(terrain, {0, 0, last, last});
     for (int y = 0; y <= last; ++y) {
@@ -150,6 +152,7 @@ void OverlayRelief(clsTerrain& terrain, const SquareArray& relief, int size, int
 }
 
 void OverlayPreview(clsTerrain& preview, const clsTerrain& current, int height, int mode) {
+    assert(preview.Size() > 0);
     const double ratio = double(current.Size()) / preview.Size();
     for (int y = 1; y <= preview.Size(); ++y) {
         for (int x = 1; x <= preview.Size(); ++x) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Fault.h"
+#include "base/Files.h"
 #include "base/Stdio.h"
 #include "base/Text.h"
 
@@ -63,6 +64,17 @@ PerlinSetTable ScanPerlinSets(const fs::path& folder) {
     for (const auto& path : descriptions)
         table.rows.push_back(ReadPerlinSet(IniFile::Read(path)));
     return table;
+}
+
+NoisePictures LoadNoisePictures(const fs::path& folder, const PerlinSet& set) {
+    NoisePictures pictures;
+    for (std::size_t k = 0; k < pictures.size(); ++k) {
+        if (set.pictures[k].empty())
+            throw Fault("the Perlin set \"" + set.name + "\" names no picture 0" +
+                        std::to_string(k + 1));
+        pictures[k] = LoadReliefPicture(FindInFolder(folder, set.pictures[k]));
+    }
+    return pictures;
 }
 
 bool PerlinPathExists(const fs::path& folder) {

@@ -2,10 +2,12 @@
 
 #include <array>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "base/IniFile.h"
+#include "terrain/ReliefPicture.h"
 
 namespace quillbrand {
 
@@ -37,6 +39,13 @@ PerlinSet ReadPerlinSet(const IniFile& description);
 /// A folder that does not exist gives no rows. Throws Fault for more than 33 descriptions or one
 /// that cannot be read.
 PerlinSetTable ScanPerlinSets(const std::filesystem::path& folder);
+
+/// The five noise pictures of a set. The raw height of a number is 32768 less, and the outside is
+/// the lowest height.
+using NoisePictures = std::array<std::shared_ptr<const ReliefPicture>, 5>;
+
+/// Reads them from the folder of the sets. Throws Fault, naming the file, when one cannot be read.
+NoisePictures LoadNoisePictures(const std::filesystem::path& folder, const PerlinSet& set);
 
 /// Whether there is anything at all in the folder of the sets.
 bool PerlinPathExists(const std::filesystem::path& folder);

@@ -4,8 +4,6 @@
 #include <string>
 
 #include "base/NumberText.h"
-#include "base/Numbers.h"
-#include "base/Stdio.h"
 #include "terrain/HeightsChange.h"
 
 namespace quillbrand {
@@ -23,8 +21,7 @@ int NewSeed(RandomSource& chance) {
 }
 
 int SeedOf(const std::string& text) {
-    return static_cast<int>(
-        RoundHalfEven(STDIO::ClampValue(-2147483648.0, 2147483647.0, Val(text))));
+    return ClampedVal(text);
 }
 
 void ProduceTerrain(Document& document, Tools& tools, int resizeMode, int size,
@@ -33,7 +30,7 @@ void ProduceTerrain(Document& document, Tools& tools, int resizeMode, int size,
     ProduceTerrain(document.CurrentTerrain, size, settings, ContextOf(tools, resizeMode), host);
     // Only now: the run itself used the mode that stood before.
     if (settings.clearTerrain || document.TerrainEmpty)
-        tools.ModifyMode = Add;
+        tools.ModifyMode = ModifyModes::Add;
     document.TerrainEmpty = false;
     change.Commit();
     host.Busy(false);

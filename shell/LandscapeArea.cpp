@@ -3,7 +3,6 @@
 #include "base/Fault.h"
 #include "base/NumberText.h"
 #include "base/Numbers.h"
-#include "base/ShownNumber.h"
 #include "base/Stdio.h"
 
 namespace quillbrand {
@@ -52,7 +51,7 @@ void SetScale(clsTerrain& terrain, const std::string& side) {
 }
 
 std::string Shown(double number, const char* pattern) {
-    return ShownNumber([&] { return Format(number, pattern); });
+    return ShownText([&] { return Format(number, pattern); });
 }
 
 }  // namespace

@@ -39,7 +39,8 @@ void SaveOptions(Settings& stored, const OptionsSettings& settings) {
     file.Set("Start", "color", Str(settings.PaletteRow));
     if (settings.BackColor)
         file.Set("Start", "BackColor", Str(*settings.BackColor));
-    file.Set("History", "Megabytes", Str(settings.historyMegabytes));
+    if (settings.historyMegabytes != stored.historyMegabytes)
+        file.Set("History", "Megabytes", Str(settings.historyMegabytes));
     file.Write(stored.IniPath);
     stored.historyMegabytes = settings.historyMegabytes;
     stored.ResizeMode = settings.ResizeMode;

@@ -14,6 +14,7 @@ struct OptionsSettings {
     int ResizeMode = 0;        ///< 1 bilinear, 2 pixel repetition; 0 before one was ever chosen
     int PaletteRow = 0;
     std::optional<Colour> BackColor = {};  ///< of the window; without one its key stays as it is
+    /// What the steps of the history may take. Unless it changes its key stays as it is.
     int historyMegabytes = Settings::standardHistoryMegabytes;
     std::string terragenFolder = {};  ///< the three folders are shown only: WriteFolder stores them
     std::string objectFolder = {};

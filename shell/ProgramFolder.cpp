@@ -2,10 +2,10 @@
 
 #include <unistd.h>
 
-#include <cstdlib>
 #include <system_error>
 
 #include "base/Fault.h"
+#include "base/XdgFolders.h"
 
 namespace quillbrand {
 
@@ -13,20 +13,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The value of an environment variable, "" when it is not set.
-std::string Environment(const char* name) {
-    // There is one thread. NOLINTNEXTLINE(concurrency-mt-unsafe)
-    const char* value = std::getenv(name);
-    return value == nullptr ? std::string() : value;
-}
-
-/// Only absolute paths count, as the XDG base directory rules say.
 fs::path OwnFolder() {
-    const fs::path dataHome = Environment("XDG_DATA_HOME");
-    if (dataHome.is_absolute())
-        return dataHome / "quillbrand";
-    const fs::path home = Environment("HOME");
-    return home.is_absolute() ? home / ".local/share/quillbrand" : fs::path();
+    const fs::path dataHome = XdgDataHome();
+    return dataHome.empty() ? fs::path() : dataHome / "quillbrand";
 }
 
 bool IsFolder(const fs::path& path) {

@@ -9,6 +9,7 @@
 #include "base/Files.h"
 #include "base/IniFile.h"
 #include "base/Text.h"
+#include "base/XdgFolders.h"
 #include "shell/FileUndo.h"
 
 namespace quillbrand::RegExt {
@@ -22,15 +23,11 @@ constexpr auto mimeTool = "update-mime-database";
 constexpr int toolTime = 60'000;  // milliseconds
 constexpr int waitTime = 20;      // milliseconds
 
-/// A folder of the user, as the XDG base directory rules say; only absolute paths count.
-fs::path UserFolder(const char* variable, const char* belowHome) {
-    fs::path told = qgetenv(variable).toStdString();
-    if (told.is_absolute())
-        return told;
-    const fs::path home = qgetenv("HOME").toStdString();
-    if (!home.is_absolute())
+/// A folder of the user's, of which `variable` may name another.
+fs::path Needed(fs::path folder, const char* variable) {
+    if (folder.empty())
         throw Fault(std::string("neither ") + variable + " nor HOME is set");
-    return home / belowHome;
+    return folder;
 }
 
 /// `text` with every character of `which` replaced by what `with` makes of it.
@@ -115,7 +112,7 @@ void RunTool(const char* name, const fs::path& folder, const Wait& wait) {
 void Register(FileUndo& undo, const fs::path& data, const std::string& extension,
               const std::string& description, const std::string& product,
               const std::string& command, const Wait& wait) {
-    const fs::path config = UserFolder("XDG_CONFIG_HOME", ".config");
+    const fs::path config = Needed(XdgConfigHome(), "XDG_CONFIG_HOME");
     const std::string name = LowerCase(product);
 
     undo.Write(data / "mime/packages" / (name + ".xml"), MimePackage(extension, description));
@@ -163,7 +160,7 @@ bool RegisterExtension(const std::string& extension, const std::string& descript
                        const std::string& product, const std::string& command, std::string* reason,
                        const std::function<void()>& wait) {
     try {
-        const fs::path data = UserFolder("XDG_DATA_HOME", ".local/share");
+        const fs::path data = Needed(XdgDataHome(), "XDG_DATA_HOME");
         auto forget = qScopeGuard([&] { ForgetListed(data, wait); });
         FileUndo undo;
         Register(undo, data, extension, description, product, command, wait);

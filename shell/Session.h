@@ -38,7 +38,7 @@ struct Tools {
     int RandomSeedValue = 0;
     std::string seedText;           ///< the generator's seed as its text stands
     std::optional<int> chosenSize;  ///< the grid size that is ticked
-    int ModifyMode = Add;
+    int ModifyMode = ModifyModes::Add;
     PerlinSetTable PerlinSets;
     std::array<int, 100> EffectStrength{};
     std::string ErodePictureName;

@@ -15,6 +15,9 @@ class SessionHost : public Host {
     void Progress(int percent) override { session_.document.CurrentTerrain.pProgress = percent; }
     RandomSource& Chance() override { return chance_; }
 
+  protected:
+    const Session& TheSession() const { return session_; }
+
   private:
     Session& session_;
     RandomSource& chance_;

@@ -1,12 +1,10 @@
 #include "shell/SubMain.h"
 
-#include <algorithm>
 #include <array>
 
 #include "base/Files.h"
 #include "base/IniFile.h"
 #include "base/NumberText.h"
-#include "base/Numbers.h"
 #include "base/Stdio.h"
 #include "editor/Palette.h"
 #include "effects/QBTools2.h"
@@ -27,8 +25,7 @@ int StartPoints(const std::string& optTer) {
 /// A number of the section "Start", limited to 0..`most`, so that a damaged file cannot choose
 /// what does not exist.
 int StartNumber(const IniFile& settings, const std::string& key, int most) {
-    const double value = RoundHalfEven(Val(settings.Get("Start", key)));
-    return static_cast<int>(std::clamp<double>(value, 0, most));
+    return ClampedVal(settings.Get("Start", key), 0, most);
 }
 
 void ReadSettings(Session& session) {

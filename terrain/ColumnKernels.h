@@ -16,7 +16,7 @@ inline bool HoldColumns(std::size_t count, const GridRect& rect, std::ptrdiff_t 
 }
 
 /// Turns `rowCount` rows of `count` cells, which begin `stride` cells apart, into columns that
-/// begin `length` cells apart. Rows and columns must not overlap in memory.
+/// begin `length` cells apart. Requires: the two do not overlap in memory.
 void RowsToColumns(const std::int32_t* rows, std::ptrdiff_t stride, std::ptrdiff_t rowCount,
                    std::ptrdiff_t count, std::int32_t* columns, std::ptrdiff_t length);
 

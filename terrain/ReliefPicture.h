@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -27,7 +28,9 @@ class ReliefPicture {
         return Row(y)[x];
     }
 
+    /// Row y, Width() numbers. Requires: 0 <= y < Height().
     const std::uint16_t* Row(int y) const {
+        assert(y >= 0 && y < height_);
         return numbers_.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width_);
     }
 

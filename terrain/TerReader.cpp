@@ -1,5 +1,6 @@
 #include "terrain/TerReader.h"
 
+#include <cassert>
 #include <string_view>
 
 #include "terrain/HeightWriter.h"
@@ -81,6 +82,9 @@ TerContent ParseTer(std::span<const std::byte> bytes, const std::string& name) {
 }
 
 void StoreTer(const TerContent& content, clsTerrain& terrain) {
+    assert(content.samples.size() == sizeof(std::int16_t) *
+                                         static_cast<std::size_t>(content.points) *
+                                         static_cast<std::size_t>(content.points));
     terrain.Init(content.points);
     terrain.HeightScale(content.HeightScale);
     terrain.BaseHeight(content.BaseHeight);
@@ -96,7 +100,7 @@ void StoreTer(const TerContent& content, clsTerrain& terrain) {
     for (int y = terrain.Size(); y >= 0; --y, place += rowBytes) {
         // Through a row of our own, because samples may start at an odd place.
         std::memcpy(row.data(), place, rowBytes);
-        WidenSamples(row.data(), content.points, writer.UnmeasuredRow(y).data(), writer.Stored());
+        WidenSamples(row, writer.UnmeasuredRow(y), writer.Stored());
     }
 }
 

@@ -31,6 +31,7 @@ bool IsTer(std::span<const std::byte> bytes);
 TerContent ParseTer(std::span<const std::byte> bytes, const std::string& name);
 
 /// Makes `terrain` what the content says, its grid anew. An absent CRVM leaves that value alone.
+/// Requires: the content is one that ParseTer gave.
 void StoreTer(const TerContent& content, clsTerrain& terrain);
 
 }  // namespace quillbrand

@@ -41,7 +41,7 @@ void EncodeTer(clsTerrain& terrain, Bytes& file, Host& host) {
     // The bottom row of the picture is the first of the file.
     for (int y = points - 1; y >= 0; --y) {
         auto* samples = reinterpret_cast<std::int16_t*>(place);
-        if (!NarrowCells(terrain.Row(y).data(), points, samples))
+        if (!NarrowCells(terrain.Row(y, terrain.Points()), samples))
             ReportHeightOutside(terrain, y);
         place += rowBytes;
         host.Progress(PercentOf(terrain.Size() - y, terrain.Size()));

@@ -25,6 +25,12 @@ double Ratio(double part, double whole, const char* what) {
     return part / whole;
 }
 
+void RequirePoints(std::int64_t points) {
+    if (points < 1 || points > INT16_MAX)
+        throw Fault("a terrain of " + std::to_string(points) + " points per side cannot be made (" +
+                    "1 to " + std::to_string(INT16_MAX) + ")");
+}
+
 }  // namespace
 
 clsTerrain::clsTerrain() {
@@ -33,16 +39,18 @@ clsTerrain::clsTerrain() {
 }
 
 void clsTerrain::Init(std::int64_t points) {
-    if (points < 1 || points > INT16_MAX)
-        throw Fault("a terrain of " + std::to_string(points) + " points per side cannot be made (" +
-                    "1 to " + std::to_string(INT16_MAX) + ")");
-    const int side = static_cast<int>(points) + 2;
-    const auto count = static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
-    if (cells_.size() == count)
-        std::fill_n(cells_.data(), count, 0);
+    RequirePoints(points);
+    const auto side = static_cast<std::size_t>(points) + 2;
+    if (cells_.size() == side * side)
+        std::fill_n(cells_.data(), cells_.size(), 0);
     else
-        cells_ = GridBuffer<Height>(count, 0);
-    side_ = side;
+        cells_ = GridBuffer<Height>(side * side, 0);
+    SetSide(points);
+}
+
+/// What goes with a new grid.
+void clsTerrain::SetSide(std::int64_t points) {
+    side_ = static_cast<int>(points) + 2;
     Size(points - 1);
     extremes_ = {400000, -400000};
 }
@@ -166,6 +174,12 @@ void clsTerrain::IncrPoint(int x, int y, Height d) {
     extremes_.Widen(d);
 }
 
+void clsTerrain::IncrPoints(int x, int y, std::span<const Height> d) {
+    assert(d.empty() || (InGrid(x, y) && InGrid(x + static_cast<int>(d.size()) - 1, y)));
+    if (!d.empty() && !AddCells({cells_.data() + Index(x, y), d.size()}, d, extremes_))
+        throw Fault("overflow: a height in row " + std::to_string(y) + " leaves 32 bits");
+}
+
 void clsTerrain::Fill(Height z) {
     std::fill_n(cells_.data(), cells_.size(), z);
     extremes_ = searched;
@@ -267,6 +281,14 @@ void clsTerrain::SetTerrain(const SquareArray& array) {
     }
 }
 
+void clsTerrain::TakeTerrain(SquareArray array) {
+    const int points = array.Upper() - 1;
+    RequirePoints(points);
+    cells_ = std::move(array).TakeCells();
+    SetSide(points);
+    extremes_.Widen(Measure(Cells()));
+}
+
 void clsTerrain::RequireInGrid(int x1, int y1, int x2, int y2) const {
     if (!InGrid(x1, y1) || !InGrid(x2, y2))
         throw Fault("the area " + std::to_string(x1) + "," + std::to_string(y1) + " to " +
@@ -291,35 +313,43 @@ void clsTerrain::GetReflectVer(int x1, int y1, int x2, int y2) {
         std::reverse(&cells_[Index(x1, y)], &cells_[Index(x2, y)] + 1);
 }
 
+void clsTerrain::FillRect(const GridRect& rect, Height z) {
+    if (rect.IsEmpty())
+        return;
+    for (int y = rect.y0; y <= rect.y1; ++y)
+        std::fill_n(cells_.data() + Index(rect.x0, y), rect.Columns(), z);
+    extremes_.Widen(z);
+}
+
 void clsTerrain::GetCircle(double cx, double cy, int r, Height z) {
-    const int x = RoundTo32(cx);
-    const int y = RoundTo32(cy);
-    for (int i = 0; i <= r; ++i) {
-        const int h = RoundTo32(std::sqrt(double{1} * r * r - double{1} * i * i));
-        for (int j = 0; j <= h; ++j) {
-            SetPoint(x + i, y + j, z);
-            SetPoint(x - i, y + j, z);
-            SetPoint(x + i, y - j, z);
-            SetPoint(x - i, y - j, z);
-        }
+    const std::int64_t x = RoundTo32(cx);
+    const std::int64_t y = RoundTo32(cy);
+    const std::int64_t radius = r;
+    const GridRect around = GridRect::Cut(x - radius, y - radius, x + radius, y + radius, Cells());
+    for (int column = around.x0; column <= around.x1; ++column) {
+        const std::int64_t i = column - x;
+        const auto h = static_cast<std::int64_t>(
+            RoundHalfEven(std::sqrt(static_cast<double>(radius * radius - i * i))));
+        FillRect(GridRect::Cut(column, y - h, column, y + h, Cells()), z);
     }
 }
 
 void clsTerrain::GetSquare(double cx, double cy, int r, Height z) {
-    const int x = RoundTo32(cx);
-    const int y = RoundTo32(cy);
-    for (int j = -r; j <= r; ++j)
-        for (int i = -r; i <= r; ++i)
-            SetPoint(x + i, y + j, z);
+    const std::int64_t x = RoundTo32(cx);
+    const std::int64_t y = RoundTo32(cy);
+    const std::int64_t radius = r;
+    FillRect(GridRect::Cut(x - radius, y - radius, x + radius, y + radius, Cells()), z);
 }
 
 void clsTerrain::GetNoise(double cx, double cy, int r, Height z, RandomSource& chance) {
     const int centreX = RoundTo32(cx);
     const int centreY = RoundTo32(cy);
+    const double last = Size() + 2;
     for (int i = 0; i < r; ++i) {
-        const int x = RoundTo32(2 * chance.Uniform() * r + centreX - r);
-        const int y = RoundTo32(2 * chance.Uniform() * r + centreY - r);
-        SetPoint(x, y, z);
+        const double x = RoundHalfEven(2 * chance.Uniform() * r + centreX - r);
+        const double y = RoundHalfEven(2 * chance.Uniform() * r + centreY - r);
+        if (x >= 0 && x <= last && y >= 0 && y <= last)
+            SetPoint(static_cast<int>(x), static_cast<int>(y), z);
     }
 }
 

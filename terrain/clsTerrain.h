@@ -87,8 +87,8 @@ class clsTerrain {
     float GetV2Meter(float raw) const;
     Height GetMeter2Int(float metres) const;
 
-    /// The cell in metres and in TU. x, y must lie in the grid. Fault when raw * HeightScale leaves
-    /// 32 bits.
+    /// The cell in metres and in TU. Fault when raw * HeightScale leaves 32 bits. Requires: x, y
+    /// lies in the grid.
     float GetPointMeters(int x, int y) const;
     float GetPointTU(int x, int y) const;
     float GetPointTUZ(Height raw) const;
@@ -104,6 +104,10 @@ class clsTerrain {
     /// Adds d to the cell. The running extremes are widened by d itself, not by the new height, so
     /// they are stale until Range runs. Fault when the height leaves 32 bits.
     void IncrPoint(int x, int y, Height d);
+
+    /// The same for the cells (x + i, y) and the amounts d[i]; after a fault the row is in any
+    /// state. Requires: the cells lie in the grid.
+    void IncrPoints(int x, int y, std::span<const Height> d);
 
     /// The cell nearest to x, y.
     Height GetPoint(int x, int y) const {
@@ -132,16 +136,20 @@ class clsTerrain {
     /// A copy of the cells in an array with the upper index Size() + 10; the rest is 0.
     SquareArray GetTerrain() const;
 
-    /// Stores the cells (0..Size() + 2)² of `array`, whose upper index must reach that far.
+    /// Stores the cells (0..Size() + 2)² of `array`. Requires: its upper index reaches that far.
     void SetTerrain(const SquareArray& array);
+
+    /// As Init(array.Upper() - 1) and SetTerrain(array) would leave it, without copying.
+    void TakeTerrain(SquareArray array);
 
     /// Mirrors a rectangle, bounds inclusive and inside the grid, top to bottom (Hor) or left to
     /// right (Ver). The running extremes stay. Fault when a bound lies outside the grid.
     void GetReflectHor(int x1, int y1, int x2, int y2);
     void GetReflectVer(int x1, int y1, int x2, int y2);
 
-    /// A filled disc, a filled square and r random dots, with the height z; radius r; the centre
-    /// is rounded once; what lies outside the grid is left out.
+    /// A filled disc, a filled square and r random dots, with the height z; radius r, nothing for
+    /// one below 0; the centre is rounded once; what lies outside the grid is left out. Fault for a
+    /// centre beyond 32 bits.
     void GetCircle(double cx, double cy, int r, Height z);
     void GetSquare(double cx, double cy, int r, Height z);
     void GetNoise(double cx, double cy, int r, Height z, RandomSource& chance);
@@ -190,8 +198,11 @@ class clsTerrain {
         return static_cast<unsigned>(x) <= last && static_cast<unsigned>(y) <= last;
     }
 
+    void SetSide(std::int64_t points);
+
     /// mode 1 returns the maximum, 2 the minimum, any other 0; all make the extremes true.
     Height GetExtremes(int mode);
+    void FillRect(const GridRect& rect, Height z);
     void StretchTo(double factor, double centre);
     HeightWindow Window() const;
     void Store(const HeightWindow& window);

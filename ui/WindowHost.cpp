@@ -17,11 +17,11 @@ constexpr int pumpEveryMs = 10;
 }  // namespace
 
 void WindowHost::Attach(QWidget* window, std::function<void(const std::string&)> showStatus,
-                        std::function<void()> actualScreen, std::function<void()> keepInputOut) {
+                        std::function<void()> actualScreen, std::function<void(bool)> takeInput) {
     window_ = window;
     showStatus_ = std::move(showStatus);
     actualScreen_ = std::move(actualScreen);
-    keepInputOut_ = std::move(keepInputOut);
+    takeInput_ = std::move(takeInput);
 }
 
 void WindowHost::WhenIdle(std::function<void()> action) {
@@ -46,14 +46,19 @@ void WindowHost::Status(std::string_view text) {
 void WindowHost::Busy(bool busy) {
     SessionHost::Busy(busy);
     if (busy)
-        keepInputOut_();
+        KeepInputOut();
+}
+
+void WindowHost::KeepInputOut() {
+    inputIsOut_ = true;
+    takeInput_(false);
 }
 
 void WindowHost::Yield() {
     if (sincePump_.elapsed() < pumpEveryMs)
         return;
     if (commandRuns_)
-        keepInputOut_();
+        KeepInputOut();
     QCoreApplication::processEvents();
     sincePump_.restart();
 }
@@ -66,15 +71,26 @@ Answer WindowHost::Ask(const Question& question) {
     return AskUser(window_, question);
 }
 
+void WindowHost::EndCommand() {
+    if (inputIsOut_) {
+        // What was clicked and typed while input was out goes to nobody.
+        QCoreApplication::processEvents();
+        inputIsOut_ = false;
+        if (!TheSession().TerrainBusy)
+            takeInput_(true);
+    }
+    commandRuns_ = false;
+    if (!waiting_.empty())
+        QTimer::singleShot(0, window_, [this] { RunWaiting(); });
+}
+
 CommandScope::CommandScope(WindowHost& host) : host_(host) {
     assert(!host.commandRuns_);
     host_.commandRuns_ = true;
 }
 
 CommandScope::~CommandScope() {
-    host_.commandRuns_ = false;
-    if (!host_.waiting_.empty())
-        QTimer::singleShot(0, host_.window_, [host = &host_] { host->RunWaiting(); });
+    host_.EndCommand();
 }
 
 }  // namespace quillbrand

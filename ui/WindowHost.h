@@ -19,10 +19,10 @@ class WindowHost : public SessionHost {
         sincePump_.start();
     }
 
-    /// The window that shows the status, is brought into line, keeps input out while a command lets
-    /// events through, and owns the message boxes.
+    /// The window that shows the status, is brought into line, takes input or keeps it out, which
+    /// it does while a command lets events through, and owns the message boxes.
     void Attach(QWidget* window, std::function<void(const std::string&)> showStatus,
-                std::function<void()> actualScreen, std::function<void()> keepInputOut);
+                std::function<void()> actualScreen, std::function<void(bool)> takeInput);
 
     /// True from the first line of a command to its last, questions and dialogs included.
     bool CommandRuns() const { return commandRuns_; }
@@ -40,14 +40,17 @@ class WindowHost : public SessionHost {
   private:
     friend class CommandScope;
 
+    void KeepInputOut();
+    void EndCommand();
     void RunWaiting();
 
     QWidget* window_ = nullptr;
     std::function<void(const std::string&)> showStatus_ = [](const std::string&) {};
     std::function<void()> actualScreen_ = [] {};
-    std::function<void()> keepInputOut_ = [] {};
+    std::function<void(bool)> takeInput_ = [](bool) {};
     QElapsedTimer sincePump_;
     bool commandRuns_ = false;
+    bool inputIsOut_ = false;  ///< since the command that runs let events through
     std::vector<std::function<void()>> waiting_;
 };
 

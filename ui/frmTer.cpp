@@ -25,6 +25,7 @@
 #include "ui/panels/GeneratorPanel.h"
 #include "ui/panels/GlobalPanel.h"
 #include "ui/panels/ObjectsPanel.h"
+#include "ui/plan/EditTools.h"
 #include "ui/plan/PlanView.h"
 #include "ui/plan/ToolStrip.h"
 #include "ui/plan/ZViewPanel.h"
@@ -37,10 +38,6 @@ namespace {
 constexpr int pictureMargin = 20;
 
 constexpr int messageMs = 10'000;
-
-QColor ColorOf(Colour colour) {
-    return {colour & 255, (colour >> 8) & 255, (colour >> 16) & 255};
-}
 
 /// The one local TER file of a drag, or nothing.
 std::optional<std::filesystem::path> DraggedTerrain(const QMimeData* data) {
@@ -62,7 +59,7 @@ frmTer::frmTer(Session& session, WindowHost& host, QWidget* parent)
     ConnectParts();
     host_.Attach(
         this, [this](const std::string& text) { InfoText_->setText(QString::fromStdString(text)); },
-        [this] { ActualScreen(); }, [this] { KeepInputOut(); });
+        [this] { ActualScreen(); }, [this](bool take) { EnableInput(take); });
     UpdateTitle();
 }
 
@@ -76,7 +73,10 @@ void frmTer::ConnectParts() {
     connect(PicZ_, &ZViewPanel::Reopen, this, &frmTer::ShowZView);
     auto* redraw = new QShortcut(QKeySequence(Qt::Key_F5), this);
     connect(redraw, &QShortcut::activated, planView_, &PlanView::Redraw);
-    connect(SSTab1_, &QTabWidget::currentChanged, this, [this] { ShowSwatch(); });
+    connect(SSTab1_, &QTabWidget::currentChanged, this, [this] {
+        editTools_->DeactEdit();
+        editPanel_->ShowMiddle();
+    });
     connect(PicZ_, &ZViewPanel::Leave, this, &frmTer::ShowPlanView);
     connect(PicZ_, &ZViewPanel::ThumbnailMouseMove, planView_, &PlanView::ShowPoint);
 }
@@ -87,7 +87,7 @@ bool frmTer::Form_Load() {
     session_.document.CurrentTerrain.pProgress = 100;
     session_.TerrainBusy = false;
     if (session_.settings.BackColor)
-        setPalette(WindowColours(ColorOf(*session_.settings.BackColor)));
+        setPalette(WindowColours(ToQColor(*session_.settings.BackColor)));
     loaded_ = true;
     ResizePicture();
     session_.document.TerrainEmpty = true;
@@ -100,8 +100,8 @@ bool frmTer::Form_Load() {
         return false;
     }
     generatorPanel_->LoadPerlinList();
-    planView_->SetBackColor(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
-    ShowSwatch();
+    planView_->SetBackColor(PaletteTable(128, session_.settings.PaletteRow));
+    editPanel_->Form_Load();
     if (!session_.StartFile.empty())
         OpenFile(session_.StartFile);
     return true;
@@ -154,6 +154,8 @@ void frmTer::ActualScreen() {
     ShowHistory();
     effectsPanel_->Refresh();
     generatorPanel_->Refresh();
+    editPanel_->SetAltitudes(Val(globalPanel_->LowestText().toStdString()),
+                             Val(globalPanel_->HighestText().toStdString()));
 }
 
 void frmTer::ShowHistory() {
@@ -176,18 +178,13 @@ void frmTer::EnableInput(bool enable) {
     // Whoever works by keyboard goes on where the command was started.
     if (!enable)
         focusBefore_ = focusWidget();
-    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, SSTab1_, planView_, PicZ_,
-                                                         OptXYView_, optZView_})
+    for (QWidget* part : std::initializer_list<QWidget*>{toolbar_, toolStrip_, SSTab1_, planView_,
+                                                         PicZ_, OptXYView_, optZView_})
         part->setEnabled(enable);
     if (enable && focusBefore_ != nullptr && focusWidget() == nullptr)
         focusBefore_->setFocus();
     enable ? unsetCursor() : setCursor(Qt::WaitCursor);
     inputEnabled_ = enable;
-}
-
-/// At once, not at the next heartbeat: events may come through before it.
-void frmTer::KeepInputOut() {
-    EnableInput(false);
 }
 
 void frmTer::Timer1_Timer() {
@@ -209,7 +206,7 @@ void frmTer::CommonEnd() {
     InfoText_->setText(QStringLiteral("Ready"));
     PB_->setValue(0);
     session_.TerrainBusy = false;
-    ShowSwatch();
+    editPanel_->Slider2_Change();
     ActualScreen();
     host_.Yield();
 }
@@ -236,10 +233,6 @@ void frmTer::ShowZView() {
         ShowPlanView();
 }
 
-void frmTer::ShowSwatch() {
-    editPanel_->SetSwatch(ColorOf(PaletteTable(128, session_.settings.PaletteRow)));
-}
-
 void frmTer::optZView_Click() {
     if (session_.document.TerrainEmpty) {
         TellUser(this, QStringLiteral("Terrain empty !"), QStringLiteral("Z-View"));
@@ -253,6 +246,7 @@ void frmTer::optZView_Click() {
     PicZ_->SetAltitudes(globalPanel_->LowestText(), globalPanel_->HighestText());
     optZView_->setChecked(true);
     views_->setCurrentIndex(1);
+    editTools_->DeactEdit();
     PicZ_->Open(planView_->Raster());
 }
 

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <filesystem>
+#include <memory>
 
 #include "ui/DocumentCommands.h"
 #include "ui/Toolbar1.h"
@@ -19,6 +20,7 @@ class QTimer;
 namespace quillbrand {
 
 class EditPanel;
+class EditTools;
 class EffectsPanel;
 class GeneratorPanel;
 class GlobalPanel;
@@ -71,7 +73,6 @@ class frmTer : public QMainWindow, public Workplace {
 
     void ActualScreen();
     void EnableInput(bool enable);
-    void KeepInputOut();
     void Timer1_Timer();
     std::vector<ToolButton> Buttons();
     void Toolbar1_ButtonClick(const QString& key, const std::function<bool()>& work);
@@ -80,7 +81,6 @@ class frmTer : public QMainWindow, public Workplace {
     void ShowHistory();
     void CommonEnd();
     void ShowZView();
-    void ShowSwatch();
     void optZView_Click();
     void UpdateTitle();
     double PictureLimit() const;
@@ -94,6 +94,7 @@ class frmTer : public QMainWindow, public Workplace {
     QWidget* pictures_;
     QStackedLayout* views_;
     PlanView* planView_;
+    std::unique_ptr<EditTools> editTools_;
     ZViewPanel* PicZ_;
     QRadioButton* OptXYView_;
     QRadioButton* optZView_;

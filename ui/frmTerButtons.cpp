@@ -6,6 +6,7 @@
 #include "ui/dialogs/frmAbout.h"
 #include "ui/frmTer.h"
 #include "ui/panels/GlobalPanel.h"
+#include "ui/plan/EditTools.h"
 #include "ui/plan/PlanView.h"
 
 // What the buttons of the tool bar do.
@@ -78,6 +79,7 @@ void frmTer::Toolbar1_ButtonClick(const QString& key, const std::function<bool()
     const CommandScope scope(host_);
     session_.document.CurrentTerrain.CRAD(static_cast<float>(globalPanel_->PlanetRadius()));
     session_.document.CurrentTerrain.CRVM(globalPanel_->Curved() ? 1 : 0);
+    editTools_->DeactEdit();
     ShowPlanView();
     bool commonEnd = true;
     RunPart(this, host_, toolbar_->Button(key)->text(), [&] { commonEnd = work(); });

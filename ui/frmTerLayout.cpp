@@ -12,6 +12,7 @@
 #include "ui/panels/GeneratorPanel.h"
 #include "ui/panels/GlobalPanel.h"
 #include "ui/panels/ObjectsPanel.h"
+#include "ui/plan/EditTools.h"
 #include "ui/plan/PlanView.h"
 #include "ui/plan/ToolStrip.h"
 #include "ui/plan/ZViewPanel.h"
@@ -41,6 +42,7 @@ void frmTer::BuildWindow() {
     layout->addWidget(BuildPictures(), 1);
     layout->addWidget(BuildRightColumn());
     setCentralWidget(centre);
+    editTools_ = std::make_unique<EditTools>(*this, *planView_, *toolStrip_, *editPanel_);
     resize(1280, 800);
 
     Timer1_ = new QTimer(this);

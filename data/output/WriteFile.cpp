@@ -9,10 +9,9 @@ void WriteFile(const QDir& folder, const std::string& name, const std::string& c
     QSaveFile file(folder.filePath(QString::fromStdString(name)));
     const auto size = static_cast<qint64>(content.size());
     if (!file.open(QIODevice::WriteOnly) || file.write(content.data(), size) != size ||
-        !file.commit()) {
+        !file.commit())
         throw std::runtime_error("cannot write " + file.fileName().toStdString() + ": " +
                                  file.errorString().toStdString());
-    }
 }
 
 }  // namespace quillbrand

@@ -17,19 +17,18 @@ using quillbrand::WriteFile;
 using namespace quillbrand::perlin;
 
 /// Room for a window of 129 points.
-constexpr int kSmallestSide = 133;
+constexpr int smallestSide = 133;
 /// Room for a thousand places, in each direction, of a window of 257 points.
-constexpr int kSide = 1285;
-constexpr int kLargestSide = 4096;
+constexpr int standardSide = 1285;
+constexpr int largestSide = 4096;
 
 int ReadSide(const QString& text) {
     bool isNumber = false;
     const int side = text.toInt(&isNumber);
-    if (!isNumber || side < kSmallestSide || side > kLargestSide) {
+    if (!isNumber || side < smallestSide || side > largestSide)
         throw std::runtime_error("--side " + text.toStdString() + ": allowed is " +
-                                 std::to_string(kSmallestSide) + " to " +
-                                 std::to_string(kLargestSide));
-    }
+                                 std::to_string(smallestSide) + " to " +
+                                 std::to_string(largestSide));
     return side;
 }
 
@@ -37,43 +36,36 @@ const PerlinSet& ReadSet(const std::string& text) {
     const PerlinSet* set = FindPerlinSet(text);
     if (set == nullptr) {
         std::string known;
-        for (const PerlinSet& other : PerlinSets()) {
+        for (const PerlinSet& other : PerlinSets())
             known += std::string("\n  ") + other.name;
-        }
         throw std::runtime_error("--set " + text + ": no such set. There are:" + known);
     }
     return *set;
 }
 
 void WriteSet(const QDir& folder, const PerlinSet& set, int side) {
-    for (int number = 1; number <= kPictures; ++number) {
+    for (int number = 1; number <= pictureCount; ++number)
         WriteFile(folder, PictureFile(set, number),
                   quillbrand::EncodePng(MakeNoisePicture(set, number, side)));
-    }
     // Last, so that a set in the program's list has all its pictures.
     WriteFile(folder, std::string(set.file) + ".INI", DescribeSet(set));
 }
 
 void Run(const QCommandLineParser& options) {
-    if (!options.positionalArguments().isEmpty()) {
+    if (!options.positionalArguments().isEmpty())
         throw std::runtime_error("unknown argument " +
                                  options.positionalArguments().first().toStdString());
-    }
     const QDir folder(options.value("out"));
-    if (options.value("out").isEmpty()) {
+    if (options.value("out").isEmpty())
         throw std::runtime_error("--out DIR is missing");
-    }
-    const int side = options.isSet("side") ? ReadSide(options.value("side")) : kSide;
+    const int side = options.isSet("side") ? ReadSide(options.value("side")) : standardSide;
     const PerlinSet* only =
         options.isSet("set") ? &ReadSet(options.value("set").toStdString()) : nullptr;
-    if (!QDir().mkpath(folder.path())) {
+    if (!QDir().mkpath(folder.path()))
         throw std::runtime_error("cannot make the folder " + folder.path().toStdString());
-    }
-    for (const PerlinSet& set : PerlinSets()) {
-        if (only == nullptr || only == &set) {
+    for (const PerlinSet& set : PerlinSets())
+        if (only == nullptr || only == &set)
             WriteSet(folder, set, side);
-        }
-    }
 }
 
 }  // namespace

@@ -4,7 +4,7 @@ namespace quillbrand::perlin {
 
 namespace {
 
-constexpr PerlinSet kSets[] = {
+constexpr PerlinSet shippedSets[] = {
     {"01-alpine-ridges", "Alpine ridges", AlpineRidges, 150.0, {1.0, 0.55, 0.28, 0.14, 0.07}},
     {"02-rolling-hills", "Rolling hills", RollingHills, 150.0, {1.0, 0.45, 0.2, 0.09, 0.04}},
     {"03-eroded-badlands", "Eroded badlands", ErodedBadlands, 150.0, {1.0, 0.55, 0.28, 0.14, 0.07}},
@@ -22,15 +22,13 @@ constexpr PerlinSet kSets[] = {
 }  // namespace
 
 std::span<const PerlinSet> PerlinSets() {
-    return kSets;
+    return shippedSets;
 }
 
 const PerlinSet* FindPerlinSet(std::string_view nameOrFile) {
-    for (const PerlinSet& set : kSets) {
-        if (nameOrFile == set.name || nameOrFile == set.file) {
+    for (const PerlinSet& set : shippedSets)
+        if (nameOrFile == set.name || nameOrFile == set.file)
             return &set;
-        }
-    }
     return nullptr;
 }
 

@@ -9,7 +9,7 @@
 namespace quillbrand::perlin {
 
 /// Pictures of a set.
-constexpr int kPictures = 5;
+constexpr int pictureCount = 5;
 
 /// One set: what it is called and how its pictures come about.
 struct PerlinSet {
@@ -19,7 +19,7 @@ struct PerlinSet {
     const Module& (*recipe)(Workbench& make);
     double feature;  ///< pixels of a feature in picture 1; each next picture has half of it
     /// For each picture, its heights' range as a part of the whole 16-bit range.
-    std::array<double, kPictures> ranges;
+    std::array<double, pictureCount> ranges;
 };
 
 /// All sets in the order of their files. A new set is a recipe in a file of its own in `sets/`, a

@@ -7,7 +7,7 @@ namespace quillbrand::perlin {
 
 /// No point of the plane is further than this from the nearest point of the scatter, in cells, and
 /// no scattered point beyond the nine cells around is nearer.
-constexpr double kReach = 1.2;
+constexpr double scatterReach = 1.2;
 
 /// 32 fixed random bits for a cell. The library's value noise leaves its range for some cells, so
 /// the bits are stirred here.
@@ -29,9 +29,9 @@ struct Scattered {
 
     double Distance2() const { return dx * dx + dy * dy; }
 
-    /// 1 at the point, falling smoothly to 0 at `kReach`.
+    /// 1 at the point, falling smoothly to 0 at `scatterReach`.
     double Weight() const {
-        const double part = 1.0 - Distance2() / (kReach * kReach);
+        const double part = 1.0 - Distance2() / (scatterReach * scatterReach);
         return part > 0.0 ? part * part * part : 0.0;
     }
 
@@ -41,7 +41,7 @@ struct Scattered {
 
 /// Calls `use` with the scattered points of the nine cells around (x, y). They keep to the middle
 /// three fifths of their cells.
-template <class Use>
+template <typename Use>
 void ForEachNear(double x, double y, int seed, Use use) {
     const int middleColumn = static_cast<int>(std::floor(x));
     const int middleRow = static_cast<int>(std::floor(y));

@@ -12,7 +12,7 @@ namespace quillbrand::perlin {
 
 namespace {
 
-constexpr double kTurn = 2.0 * std::numbers::pi;
+constexpr double fullTurn = 2.0 * std::numbers::pi;
 
 double SmoothStep(double low, double high, double value) {
     const double t = std::clamp((value - low) / (high - low), 0.0, 1.0);
@@ -27,10 +27,10 @@ double Cone(double away, double rim) {
     const double bowl = rimHeight * (0.45 + 0.55 * inside * inside);
     // The lower of the two, rounded where they meet. That takes this much off the rim; all but the
     // foot gets it back.
-    constexpr double kRounding = 0.0224;
+    constexpr double rounding = 0.0224;
     const double apart = flank - bowl;
-    return (flank + bowl - std::sqrt(apart * apart + 4.0 * kRounding * kRounding)) / 2.0 +
-           kRounding * SmoothStep(1.0, 0.8, away);
+    return (flank + bowl - std::sqrt(apart * apart + 4.0 * rounding * rounding)) / 2.0 +
+           rounding * SmoothStep(1.0, 0.8, away);
 }
 
 struct Vector {
@@ -49,8 +49,8 @@ struct Stripes {
 Stripes StripesAt(double x, double y, Vector across, double spacing, double turned, int seed) {
     const double cosine = std::cos(turned);
     const double sine = std::sin(turned);
-    const double waveX = kTurn * (cosine * across.x - sine * across.y);
-    const double waveY = kTurn * (sine * across.x + cosine * across.y);
+    const double waveX = fullTurn * (cosine * across.x - sine * across.y);
+    const double waveY = fullTurn * (sine * across.x + cosine * across.y);
     double weights = 0.0;
     double height = 0.0;
     double climb = 0.0;
@@ -70,12 +70,11 @@ Stripes StripesAt(double x, double y, Vector across, double spacing, double turn
 }  // namespace
 
 double Remembered::GetValue(double x, double y, double z) const {
-    const auto column = static_cast<std::size_t>(static_cast<long>(x)) % kColumns;
+    const auto column = static_cast<std::size_t>(static_cast<long>(x)) % keptColumns;
     const auto row = static_cast<std::size_t>(static_cast<long>(y)) % 2;
-    Slot& slot = slots_[row * kColumns + column];
-    if (slot.x != x || slot.y != y || slot.z != z) {
+    Slot& slot = slots_[row * keptColumns + column];
+    if (slot.x != x || slot.y != y || slot.z != z)
         slot = {x, y, z, Source(x, y, z)};
-    }
     return slot.value;
 }
 
@@ -98,16 +97,13 @@ Profile::Profile(const Module& source, std::vector<Knot> knots)
 
 double Profile::GetValue(double x, double y, double z) const {
     const double height = Source(x, y, z);
-    if (height <= knots_.front().height) {
+    if (height <= knots_.front().height)
         return knots_.front().newHeight + slopes_.front() * (height - knots_.front().height);
-    }
-    if (height >= knots_.back().height) {
+    if (height >= knots_.back().height)
         return knots_.back().newHeight + slopes_.back() * (height - knots_.back().height);
-    }
     std::size_t i = 1;
-    while (knots_[i].height < height) {
+    while (knots_[i].height < height)
         ++i;
-    }
     const Knot& low = knots_[i - 1];
     const Knot& high = knots_[i];
     const double width = high.height - low.height;
@@ -138,7 +134,7 @@ double Gullies::GetValue(double x, double y, double z) const {
         // Each octave's cells lie in another direction, lest their rows show.
         const double turned = 0.5 + 1.1 * octave;
         const Stripes spurs = StripesAt(x, y, across, spacing, turned, seed_ + octave);
-        const double climb = depth * spurs.climb * kTurn / spacing;
+        const double climb = depth * spurs.climb * fullTurn / spacing;
         height += depth * spurs.height;
         slope = {slope.x + climb * across.x, slope.y + climb * across.y};
         depth *= cut_.gain;
@@ -160,7 +156,7 @@ double Volcanoes::GetValue(double x, double y, double z) const {
     ForEachNear(x / spacing_, y / spacing_, seed_, [&](const Scattered& cell) {
         // The widest cone, frayed, still ends within the reach of the scatter.
         const double size = 0.35 + 0.65 * cell.Chance(1);
-        const double away = std::sqrt(cell.Distance2()) * fray / (0.85 * kReach * size);
+        const double away = std::sqrt(cell.Distance2()) * fray / (0.85 * scatterReach * size);
         if (away < 1.0) {
             const double height = size * Cone(away, crater_ * (0.5 + cell.Chance(2)));
             fourthPowers += height * height * height * height;

@@ -26,7 +26,7 @@ class Shape : public Module {
 /// right and its lower neighbour at every pixel costs one source value a pixel in place of three.
 class Remembered : public Shape {
   public:
-    explicit Remembered(const Module& source) : Shape(source), slots_(2 * kColumns) {}
+    explicit Remembered(const Module& source) : Shape(source), slots_(2 * keptColumns) {}
     double GetValue(double x, double y, double z) const override;
 
   private:
@@ -36,7 +36,7 @@ class Remembered : public Shape {
         double z = 0.0;
         double value = 0.0;
     };
-    static constexpr std::size_t kColumns = 4096;
+    static constexpr std::size_t keptColumns = 4096;
 
     mutable std::vector<Slot> slots_;
 };
@@ -50,7 +50,7 @@ class Profile : public Shape {
         double newHeight;
     };
 
-    /// @param knots  at least two, rising in `height`
+    /// Requires: at least two knots, rising in `height`.
     Profile(const Module& source, std::vector<Knot> knots);
     double GetValue(double x, double y, double z) const override;
 
@@ -62,9 +62,8 @@ class Profile : public Shape {
 /// Steps of equal height cut into the source, like beds of hard and soft rock.
 class Terraces : public Shape {
   public:
-    /// @param step   height of a step
-    /// @param flat   0 leaves the source as it is, towards 1 the treads get level and the
-    ///               risers steep
+    /// `step` is the height of a step; a `flat` of 0 leaves the source as it is, towards 1 the
+    /// treads get level and the risers steep.
     Terraces(const Module& source, double step, double flat)
         : Shape(source), step_(step), flat_(flat) {}
     double GetValue(double x, double y, double z) const override;
@@ -112,8 +111,8 @@ class Leaning : public Shape {
 /// to 1 on the highest rim.
 class Volcanoes : public Shape {
   public:
-    /// @param spacing  mean distance of two volcanoes in pixels
-    /// @param crater   radius of a crater against that of its cone, 0..1
+    /// `spacing` is the mean distance of two volcanoes in pixels, `crater` the radius of a crater
+    /// against that of its cone, 0..1.
     Volcanoes(const Module& source, double spacing, double crater, int seed)
         : Shape(source), spacing_(spacing), crater_(crater), seed_(seed) {}
     double GetValue(double x, double y, double z) const override;
@@ -128,10 +127,9 @@ class Volcanoes : public Shape {
 /// the lines of breakage; it is not part of the height. About -1..1.
 class Blocks : public Shape {
   public:
-    /// @param reach    how far the source moves the lines, in pixels
-    /// @param spacing  mean width of a block in pixels
-    /// @param cliff    how gentle the slope between two blocks is: about its width as a part of
-    ///                 the spacing
+    /// `reach` is how far the source moves the lines and `spacing` the mean width of a block, in
+    /// pixels; `cliff` is how gentle the slope between two blocks is, about its width as a part of
+    /// the spacing.
     Blocks(const Module& source, double reach, double spacing, double cliff, int seed)
         : Shape(source), reach_(reach), spacing_(spacing), cliff_(cliff), seed_(seed) {}
     double GetValue(double x, double y, double z) const override;

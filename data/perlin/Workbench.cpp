@@ -8,28 +8,28 @@ namespace quillbrand::perlin {
 namespace {
 
 /// Not a whole number, so that the lattices of the octaves do not meet in the same points.
-constexpr double kLacunarity = 2.07;
+constexpr double lacunarity = 2.07;
 
 /// Octaves from `size` down to the finest wave, at least one.
 int OctavesFrom(double size, double finest) {
-    const double count = 1.0 + std::floor(std::log(size / finest) / std::log(kLacunarity));
+    const double count = 1.0 + std::floor(std::log(size / finest) / std::log(lacunarity));
     return static_cast<int>(std::clamp(count, 1.0, 10.0));
 }
 
 }  // namespace
 
 int Workbench::NextSeed() {
-    constexpr std::int64_t kApart = 7919;  // more than a noise has octaves, each with its own seed
-    return static_cast<int>(++place_ * kApart % 2147483647);
+    constexpr std::int64_t apart = 7919;  // more than a noise has octaves, each with its own seed
+    return static_cast<int>(++place_ * apart % 2147483647);
 }
 
 /// Cuts the picture obliquely through the noise: gradient noise is 0 in all points of its lattice,
 /// and a plane along the lattice would show that as a grid.
-template <class Noise>
+template <typename Noise>
 const Module& Workbench::Placed(Noise& source, double size, int octaves) {
     const int seed = NextSeed();
     source.SetFrequency(1.0 / size);
-    source.SetLacunarity(kLacunarity);
+    source.SetLacunarity(lacunarity);
     source.SetNoiseQuality(noise::QUALITY_BEST);
     source.SetOctaveCount(octaves);
     source.SetSeed(seed);

@@ -12,7 +12,7 @@
 namespace quillbrand::perlin {
 
 /// Smaller waves than this many pixels would only show as facets once the terrain is enlarged.
-constexpr double kFinestWave = 6.0;
+constexpr double finestWave = 6.0;
 
 /// Where a recipe gets its building blocks from. Coordinates are pixels of the picture, so every
 /// size is a width in pixels. The workbench owns all that it hands out; a module lives as long as
@@ -24,8 +24,8 @@ constexpr double kFinestWave = 6.0;
 /// one list of arguments: their order would be the compiler's choice.
 class Workbench {
   public:
-    /// @param firstPlace  where in the noise to begin; takes up the hundred places from there
-    /// @param feature     width in pixels of this picture's features
+    /// Begins at `firstPlace` in the noise and takes up the hundred places from there; `feature` is
+    /// the width in pixels of this picture's features.
     Workbench(std::int64_t firstPlace, double feature) : feature_(feature), place_(firstPlace) {}
 
     /// Width of what the set calls its feature: a hill, a massif, a plateau ...
@@ -33,7 +33,7 @@ class Workbench {
 
     /// Hills of that size with ever smaller ones on them, down to `finest` pixels, about -1..1. A
     /// lower gain is smoother.
-    const Module& Fractal(double size, double gain = 0.45, double finest = kFinestWave);
+    const Module& Fractal(double size, double gain = 0.45, double finest = finestWave);
     /// One smooth octave, about -1..1.
     const Module& Swell(double size);
     /// Rounded cushions parted by sharp clefts, about -1..1.
@@ -60,7 +60,7 @@ class Workbench {
     const Module& Broken(const Module& bend, double reach, double spacing, double cliff);
 
   private:
-    template <class M, class... Arguments>
+    template <typename M, typename... Arguments>
     M& Make(Arguments&&... arguments) {
         auto module = std::make_unique<M>(std::forward<Arguments>(arguments)...);
         M& made = *module;
@@ -68,7 +68,7 @@ class Workbench {
         return made;
     }
 
-    template <class Noise>
+    template <typename Noise>
     const Module& Placed(Noise& source, double size, int octaves);
     int NextSeed();
 

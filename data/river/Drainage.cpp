@@ -18,18 +18,18 @@ struct Step {
     double length;
 };
 
-constexpr double kDiagonal = 1.4142135623730951;
-constexpr std::array<Step, 8> kSteps{{{1, 0, 1.0},
-                                      {1, 1, kDiagonal},
-                                      {0, 1, 1.0},
-                                      {-1, 1, kDiagonal},
-                                      {-1, 0, 1.0},
-                                      {-1, -1, kDiagonal},
-                                      {0, -1, 1.0},
-                                      {1, -1, kDiagonal}}};
+constexpr double diagonal = 1.4142135623730951;
+constexpr std::array<Step, 8> ways{{{1, 0, 1.0},
+                                    {1, 1, diagonal},
+                                    {0, 1, 1.0},
+                                    {-1, 1, diagonal},
+                                    {-1, 0, 1.0},
+                                    {-1, -1, diagonal},
+                                    {0, -1, 1.0},
+                                    {1, -1, diagonal}}};
 
 /// Least fall from a filled point to the next.
-constexpr double kFall = 1e-6;
+constexpr double leastFall = 1e-6;
 
 /// The steepest way down from (x, y), the slopes shaken.
 int ReceiverOf(const Relief& relief, int x, int y, int seed, double& distance) {
@@ -37,7 +37,7 @@ int ReceiverOf(const Relief& relief, int x, int y, int seed, double& distance) {
     std::size_t best = here;
     double steepest = 0.0;
     for (int way = 0; way < 8; ++way) {
-        const Step& step = kSteps[static_cast<std::size_t>(way)];
+        const Step& step = ways[static_cast<std::size_t>(way)];
         const std::size_t there = relief.At(x + step.dx, y + step.dy);
         const double fall = relief.height[here] - relief.height[there];
         const double chance = perlin::CellBits(x, y, seed + way) / 4294967296.0;
@@ -55,10 +55,9 @@ int ReceiverOf(const Relief& relief, int x, int y, int seed, double& distance) {
 std::vector<int> Upwards(const std::vector<int>& receiver) {
     const std::size_t count = receiver.size();
     std::vector<int> firstDonor(count + 1, 0);
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i)
         if (receiver[i] != static_cast<int>(i))
             ++firstDonor[static_cast<std::size_t>(receiver[i]) + 1];
-    }
     for (std::size_t i = 0; i < count; ++i)
         firstDonor[i + 1] += firstDonor[i];
 
@@ -100,7 +99,7 @@ void FillPits(Relief& relief) {
         open.pop();
         const int x = point % relief.side;
         const int y = point / relief.side;
-        for (const Step& step : kSteps) {
+        for (const Step& step : ways) {
             const int toX = x + step.dx;
             const int toY = y + step.dy;
             if (toX < 0 || toY < 0 || toX >= relief.side || toY >= relief.side ||
@@ -108,7 +107,7 @@ void FillPits(Relief& relief) {
                 continue;
             const std::size_t there = relief.At(toX, toY);
             seen[there] = 1;
-            relief.height[there] = std::max(relief.height[there], level + kFall);
+            relief.height[there] = std::max(relief.height[there], level + leastFall);
             open.emplace(relief.height[there], static_cast<int>(there));
         }
     }

@@ -10,7 +10,7 @@
 namespace {
 
 /// What the sampling of the effect is laid out for.
-constexpr int kSide = 1025;
+constexpr int pictureSide = 1025;
 
 }  // namespace
 
@@ -21,8 +21,9 @@ int main(int argc, char** argv) {
     }
     try {
         const QFileInfo file(QString::fromLocal8Bit(argv[1]));
-        quillbrand::WriteFile(file.dir(), file.fileName().toStdString(),
-                              quillbrand::EncodePng(quillbrand::river::MakeRiverPicture(kSide)));
+        quillbrand::WriteFile(
+            file.dir(), file.fileName().toStdString(),
+            quillbrand::EncodePng(quillbrand::river::MakeRiverPicture(pictureSide)));
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "make-erosion-picture: %s\n", fault.what());
         return 1;

@@ -1,6 +1,7 @@
 #include "data/river/RiverPicture.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -15,23 +16,22 @@ namespace {
 
 using perlin::Module;
 
-constexpr int kSeed = 20011;
+constexpr int firstSeed = 20011;
 
 /// The land reaches so far beyond the picture: rivers end at its rim in a row of short valleys that
 /// would look cut off.
-constexpr int kMargin = 64;
+constexpr int margin = 64;
 
 /// Steps of time on grids with a point every 4, 2 and 1 pixels. The coarse one finds the courses of
 /// the rivers, the finer ones add the brooks.
-constexpr int kSteps[] = {60, 14, 8};
+constexpr int stepsOfTime[] = {60, 14, 8};
 
 std::vector<double> Sampled(const Module& noise, const Relief& like) {
     std::vector<double> values;
     values.reserve(like.height.size());
-    for (int y = 0; y < like.side; ++y) {
+    for (int y = 0; y < like.side; ++y)
         for (int x = 0; x < like.side; ++x)
             values.push_back(noise.GetValue(x * like.cell, y * like.cell, 0.0));
-    }
     return values;
 }
 
@@ -61,9 +61,9 @@ Relief WornLand(int side) {
     land.height.resize(static_cast<std::size_t>(land.side) * static_cast<std::size_t>(land.side));
     AddNoise(land, hills, 2.0);
     AddNoise(land, grain, 1.0);
-    int seed = kSeed;
-    for (const int steps : kSteps) {
-        if (steps != kSteps[0]) {
+    int seed = firstSeed;
+    for (const int steps : stepsOfTime) {
+        if (steps != stepsOfTime[0]) {
             land = Refined(land);
             AddNoise(land, grain, 0.3);
         }
@@ -89,7 +89,7 @@ void CutFloor(Relief& land, int x, int y, double level, double width) {
 
 /// Gives rivers a valley floor, the wider the more water they carry.
 Relief WithFloors(const Relief& land) {
-    const Flow flow = RouteFlow(land, kSeed);
+    const Flow flow = RouteFlow(land, firstSeed);
     Relief wide = land;
     for (int y = 0; y < land.side; ++y) {
         for (int x = 0; x < land.side; ++x) {
@@ -117,18 +117,16 @@ double HeightBetween(const Relief& land, double x, double y) {
 
 /// The middle of the land, bent so that no valley runs along the grid for long.
 std::vector<double> BentMiddle(const Relief& land, int side) {
-    constexpr double kReach = 10.0;
+    constexpr double reach = 10.0;
     perlin::Workbench make(78000, 100.0);
     const Module& bendX = make.Fractal(90.0, 0.5, 15.0);
     const Module& bendY = make.Fractal(90.0, 0.5, 15.0);
     std::vector<double> heights;
     heights.reserve(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-            heights.push_back(HeightBetween(land, x + kMargin + kReach * bendX.GetValue(x, y, 0.0),
-                                            y + kMargin + kReach * bendY.GetValue(x, y, 0.0)));
-        }
-    }
+    for (int y = 0; y < side; ++y)
+        for (int x = 0; x < side; ++x)
+            heights.push_back(HeightBetween(land, x + margin + reach * bendX.GetValue(x, y, 0.0),
+                                            y + margin + reach * bendY.GetValue(x, y, 0.0)));
     return heights;
 }
 
@@ -163,9 +161,9 @@ void Blur(std::vector<double>& values, int side, int radius) {
 /// Takes off what is high or steep over wide parts: the heights against their surroundings, soft
 /// limits at both ends.
 void Even(std::vector<double>& heights, int side) {
-    constexpr int kSurroundings = 60;
+    constexpr int surroundings = 60;
     std::vector<double> mean = heights;
-    Blur(mean, side, kSurroundings);
+    Blur(mean, side, surroundings);
     std::vector<double> variance(heights.size());
     double whole = 0.0;
     for (std::size_t i = 0; i < heights.size(); ++i) {
@@ -174,7 +172,7 @@ void Even(std::vector<double>& heights, int side) {
         whole += variance[i];
     }
     whole = std::sqrt(whole / static_cast<double>(heights.size()));
-    Blur(variance, side, kSurroundings);
+    Blur(variance, side, surroundings);
     for (std::size_t i = 0; i < heights.size(); ++i) {
         const double part = 0.55 * heights[i] / (0.4 * whole + 0.6 * std::sqrt(variance[i]));
         heights[i] = part / std::sqrt(1.0 + part * part);
@@ -184,7 +182,8 @@ void Even(std::vector<double>& heights, int side) {
 }  // namespace
 
 LevelPicture MakeRiverPicture(int side) {
-    std::vector<double> heights = BentMiddle(WithFloors(WornLand(side + 2 * kMargin)), side);
+    assert(side % 4 == 1);
+    std::vector<double> heights = BentMiddle(WithFloors(WornLand(side + 2 * margin)), side);
     Even(heights, side);
     Blur(heights, side, 1);
 

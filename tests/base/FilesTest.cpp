@@ -5,6 +5,9 @@
 
 #include <csignal>
 
+#include "base/ByteBuffer.h"
+#include "base/Text.h"
+#include "base/XdgFolders.h"
 #include "tests/support/Faults.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -82,6 +85,42 @@ TEST(FindInFolder, TakesTheOtherSystemsSeparatorAndAnyCase) {
     EXPECT_EQ(FindInFolder(folder.Path(), "Sub\\hill1.png"), folder / "Sub/Hill1.PNG");
     EXPECT_EQ(FindInFolder(folder.Path(), "\\Sub\\Hill1.PNG"), folder / "Sub/Hill1.PNG");
     EXPECT_EQ(FindInFolder(folder.Path(), "missing.png"), folder / "missing.png");
+}
+
+TEST(XdgFolders, CountOnlyWhenTheyAreAbsolute) {
+    const std::string home = Environment("HOME");
+    setenv("HOME", "/somewhere", 1);
+    setenv("XDG_DATA_HOME", "below/here", 1);
+    setenv("XDG_CONFIG_HOME", "/config", 1);
+    EXPECT_EQ(XdgDataHome(), "/somewhere/.local/share");
+    EXPECT_EQ(XdgConfigHome(), "/config");
+    unsetenv("XDG_CONFIG_HOME");
+    EXPECT_EQ(XdgConfigHome(), "/somewhere/.config");
+    unsetenv("HOME");
+    EXPECT_EQ(XdgDataHome(), "");
+    unsetenv("XDG_DATA_HOME");
+    setenv("HOME", home.c_str(), 1);
+}
+
+TEST(ByteReader, NamesTheFileThatIsShorterThanItSays) {
+    const Bytes bytes = {std::byte{1}, std::byte{2}, std::byte{3}, std::byte{4}};
+    const ByteReader reader(bytes, "a.ter");
+    EXPECT_EQ(reader.ValueAt<std::int16_t>(2), 0x0403);
+    EXPECT_EQ(FaultOf([&] { reader.ValueAt<std::int16_t>(3); }),
+              "a.ter is cut short: it has 4 bytes, but at least 5 are needed");
+    EXPECT_THROW(reader.At(SIZE_MAX, 2), Fault);
+    Bytes written;
+    ByteWriter(written).Put(std::int32_t{0x04030201});
+    EXPECT_EQ(written, bytes);
+}
+
+TEST(Text, KeepsNamesOfOtherSystemsAndRefusesWhatTheyCannotHold) {
+    EXPECT_EQ(ToLatin1("\xc3\xa4"), "\xe4");
+    EXPECT_EQ(ToUtf8("\xe4"), "\xc3\xa4");
+    EXPECT_EQ(ToUtf8("\xc3\xa4"), "\xc3\xa4");
+    EXPECT_THROW(ToLatin1("\xe2\x82\xac"), Fault);
+    EXPECT_TRUE(EqualIgnoringCase("aZ[", "Az["));
+    EXPECT_FALSE(EqualIgnoringCase("[", "{"));
 }
 
 }  // namespace

@@ -24,6 +24,19 @@ TEST(IniFile, ReadsFilesOfOtherSystemsWithoutRegardToCase) {
     EXPECT_EQ(file.Get("Other", "OptTer"), "");
 }
 
+TEST(IniFile, PassesOverWhatMakesNoSense) {
+    const IniFile file = Parsed(
+        "\n k=0\n[s\nk=1\n[ \n t ]x=y\n two words =a=b \n=c\nk\n;k=2\n #k=3\n  "
+        "k\t=\n[s]k=4\nK='5'");
+    EXPECT_EQ(file.Get("", "k"), "0");
+    EXPECT_EQ(file.Get("t", "two words"), "a=b");
+    EXPECT_EQ(file.Get("t", "k", "none"), "") << "a value of nothing";
+    EXPECT_EQ(file.Get("t", "", "none"), "none");
+    EXPECT_EQ(file.Get("t", "x", "none"), "none");
+    EXPECT_EQ(file.Get("s", "k"), "5");
+    EXPECT_EQ(file.Get("S", "k", "", 1), "");
+}
+
 TEST(IniFile, TakesTheFirstOfEqualKeysAndCutsItToTheReadersBuffer) {
     IniFile file = Parsed("[s]\nk=1\nk=2\n[s]\nk=3\n[t]\nk=" + std::string(600, 'x'));
     EXPECT_EQ(file.Get("s", "k"), "1");

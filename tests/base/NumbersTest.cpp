@@ -39,8 +39,21 @@ TEST(Val, ReadsTheLongestLeadingNumberWithAPoint) {
     EXPECT_EQ(Val("-1.5e2x"), -150);
     EXPECT_EQ(Val("+7"), 7);
     EXPECT_EQ(Val("1,5"), 1);
-    for (const char* text : {"", "abc", "-", "+-3", "inf", "nan", "."})
+    for (const char* text : {"", "abc", "-", "--5", "+-5", "-+5", "+ 5", "inf", "nan", "."})
         EXPECT_EQ(Val(text), 0);
+}
+
+TEST(ClampedVal, RoundsAndTakesAnyNumber) {
+    EXPECT_EQ(ClampedVal("2.5x", 0, 9), 2);
+    EXPECT_EQ(ClampedVal("-0.6", 0, 9), 0);
+    EXPECT_EQ(ClampedVal("1e20"), INT32_MAX);
+    EXPECT_EQ(ClampedVal("-1e20"), INT32_MIN);
+    EXPECT_EQ(ClampedVal("none", 3, 9), 3);
+}
+
+TEST(ShownText, IsAQuestionMarkForWhatCannotBeShown) {
+    EXPECT_EQ(ShownText([] { return Format(1, "0"); }), "1");
+    EXPECT_EQ(ShownText([] { return Format(std::nan(""), "0"); }), "?");
 }
 
 TEST(NumberText, HasALeadingBlankOnlyInStr) {

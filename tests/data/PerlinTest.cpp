@@ -15,7 +15,7 @@
 namespace quillbrand::perlin {
 namespace {
 
-constexpr int kSide = 300;
+constexpr int pictureSide = 300;
 
 struct Outcome {
     int status;
@@ -59,7 +59,7 @@ TEST(MakePerlinSets, WritesTheSameFilesOnEveryRun) {
         ASSERT_EQ(outcome.status, 0) << outcome.complaint;
         EXPECT_EQ(folder->Entries(), 6);
     }
-    for (int number = 1; number <= kPictures; ++number) {
+    for (int number = 1; number <= pictureCount; ++number) {
         const std::string file = "01-alpine-ridges-" + std::to_string(number) + ".png";
         EXPECT_EQ(Contents(first / file), Contents(second / file)) << file;
     }
@@ -90,14 +90,14 @@ TEST(MakePerlinSets, NamesWhatIsWrongAndWritesNothing) {
 }
 
 TEST(NoisePicture, KeepsEveryLevelInGreenAndBlue) {
-    const LevelPicture made = MakeNoisePicture(PerlinSets()[0], 2, kSide);
+    const LevelPicture made = MakeNoisePicture(PerlinSets()[0], 2, pictureSide);
     const std::string png = EncodePng(made);
     const QImage read = QImage::fromData(reinterpret_cast<const uchar*>(png.data()),
                                          static_cast<int>(png.size()), "PNG");
-    ASSERT_EQ(read.size(), QSize(kSide, kSide));
+    ASSERT_EQ(read.size(), QSize(pictureSide, pictureSide));
     auto level = made.levels.begin();
-    for (int y = 0; y < kSide; ++y) {
-        for (int x = 0; x < kSide; ++x, ++level) {
+    for (int y = 0; y < pictureSide; ++y) {
+        for (int x = 0; x < pictureSide; ++x, ++level) {
             const QRgb colour = read.pixel(x, y);
             ASSERT_EQ(qGreen(colour) + 256 * qBlue(colour), *level) << x << ' ' << y;
             ASSERT_EQ(qRed(colour), 0);
@@ -112,9 +112,9 @@ class EverySet : public testing::TestWithParam<int> {
 
 TEST_P(EverySet, FillsItsRangesWithSmoothHeightsThatGetFiner) {
     double coarser = 0.0;
-    for (int number = 1; number <= kPictures; ++number) {
+    for (int number = 1; number <= pictureCount; ++number) {
         SCOPED_TRACE(PictureFile(set_, number));
-        const LevelPicture picture = MakeNoisePicture(set_, number, kSide);
+        const LevelPicture picture = MakeNoisePicture(set_, number, pictureSide);
         const auto [low, high] = std::minmax_element(picture.levels.begin(), picture.levels.end());
         const double range = 65535.0 * set_.ranges[static_cast<std::size_t>(number - 1)];
         EXPECT_NEAR(*high - *low, range, 1.0);
@@ -171,10 +171,9 @@ TEST(Remembered, GivesTheSourcesValueHoweverOneWalks) {
     const Ramp ramp;
     const Remembered remembered(ramp);
     // Points that share a slot: far apart, in the same row or two rows further, beyond the corner.
-    for (const double x : {10.0, 4106.0, 10.25, -10.0, 10.0}) {
+    for (const double x : {10.0, 4106.0, 10.25, -10.0, 10.0})
         for (const double y : {0.0, 2.0, -3.0, 0.0})
             EXPECT_EQ(remembered.GetValue(x, y, 0.0), x);
-    }
 }
 
 TEST(Profile, RunsThroughItsKnotsAndStaysBetweenThem) {

@@ -10,13 +10,13 @@
 namespace quillbrand::river {
 namespace {
 
-constexpr int kSide = 129;
+constexpr int gridSide = 129;
 
 /// A bowl with a rough bottom: all its water would stay.
 Relief Bowl() {
-    Relief bowl{kSide, 1.0, {}};
-    for (int y = 0; y < kSide; ++y) {
-        for (int x = 0; x < kSide; ++x) {
+    Relief bowl{gridSide, 1.0, {}};
+    for (int y = 0; y < gridSide; ++y) {
+        for (int x = 0; x < gridSide; ++x) {
             const int out = (x - 64) * (x - 64) + (y - 64) * (y - 64);
             bowl.height.push_back(0.001 * out + 0.1 * ((x * 37 + y * 101) % 17));
         }
@@ -57,7 +57,7 @@ TEST(Drainage, BringsTheWaterOfEveryPointDownToTheRim) {
         ASSERT_GE(filled.height[i], bowl.height[i]) << i;
     const Flow flow = RouteFlow(filled, 1);
     EXPECT_EQ(DrainedPoints(filled, flow), filled.height.size());
-    EXPECT_EQ(RimArea(filled, flow), kSide * kSide);
+    EXPECT_EQ(RimArea(filled, flow), gridSide * gridSide);
 }
 
 TEST(Wear, MakesTreesOfValleysInALandThatRises) {
@@ -68,7 +68,7 @@ TEST(Wear, MakesTreesOfValleysInALandThatRises) {
 
     const Flow flow = RouteFlow(land, 1);
     EXPECT_EQ(DrainedPoints(land, flow), land.height.size());
-    EXPECT_EQ(RimArea(land, flow), 4.0 * kSide * kSide);
+    EXPECT_EQ(RimArea(land, flow), 4.0 * gridSide * gridSide);
     // Without rivers the mean height would come to more than 13.
     const double sum = std::accumulate(land.height.begin(), land.height.end(), 0.0);
     EXPECT_LT(sum / static_cast<double>(land.height.size()), 11.0);
@@ -91,9 +91,9 @@ TEST(Wear, KeepsThePlacesOfTheOldPointsWhenRefined) {
 }
 
 TEST(RiverPicture, FillsTheSixteenBitsSmoothlyAndTheSameOnEveryRun) {
-    const LevelPicture picture = MakeRiverPicture(kSide);
-    EXPECT_TRUE(MakeRiverPicture(kSide).levels == picture.levels);
-    ASSERT_EQ(picture.levels.size(), static_cast<std::size_t>(kSide * kSide));
+    const LevelPicture picture = MakeRiverPicture(gridSide);
+    EXPECT_TRUE(MakeRiverPicture(gridSide).levels == picture.levels);
+    ASSERT_EQ(picture.levels.size(), static_cast<std::size_t>(gridSide * gridSide));
     const auto [low, high] = std::minmax_element(picture.levels.begin(), picture.levels.end());
     EXPECT_EQ(*low, 0);
     EXPECT_EQ(*high, 65535);
@@ -104,7 +104,7 @@ TEST(RiverPicture, FillsTheSixteenBitsSmoothlyAndTheSameOnEveryRun) {
         const int right = picture.levels[i] - picture.levels[i + 1];
         standOut += left * right > 500 * 500 ? 1 : 0;
     }
-    EXPECT_LT(standOut, kSide * kSide / 100);
+    EXPECT_LT(standOut, gridSide * gridSide / 100);
 }
 
 }  // namespace

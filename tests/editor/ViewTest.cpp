@@ -28,6 +28,16 @@ TEST(ZoomText, ShowsSizeAndPercent) {
     EXPECT_EQ(LineWidth(717, 2048), 1);
 }
 
+TEST(WidthInPoints, IsTheSameOnTheScreenAtEveryZoom) {
+    EXPECT_EQ(WidthInPoints(2, 257, 259), 2);
+    EXPECT_EQ(WidthInPoints(2, 2049, 717), 6);
+    EXPECT_EQ(WidthInPoints(6, 129, 524), 1);
+    EXPECT_EQ(WidthInPoints(1, 129, 524), 1);
+    EXPECT_EQ(TrailWidth(1), 2);
+    EXPECT_EQ(TrailWidth(0.35), 1);
+    EXPECT_EQ(TrailWidth(2.5), 4) << "halves to even";
+}
+
 /// Five points per side; height scale 30, base 5, 30 metres a point.
 clsTerrain SmallTerrain() {
     return GridFrom(

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "generator/DoubleGrid.h"
+#include "terrain/Doubling.h"
 #include "tests/support/Faults.h"
 #include "tests/support/Grids.h"
 #include "tests/support/NoiseSet.h"
@@ -32,14 +32,10 @@ class Generator : public ::testing::Test {
         settings_.seed = "123456";
     }
 
-    void Generate(clsTerrain& terrain, int size) {
-        GenerateTerrain(terrain, size, settings_, {sets_, resizeMode_, mode_}, host_);
-    }
-
     /// A terrain of `size` intervals with nothing but the relief.
     clsTerrain Generated(int size) {
         clsTerrain terrain = EmptyTerrain(size + 1);
-        Generate(terrain, size);
+        GenerateTerrain(terrain, size, settings_, {sets_, resizeMode_, mode_}, host_);
         return terrain;
     }
 
@@ -67,8 +63,8 @@ class Generator : public ::testing::Test {
     TemporaryFolder folder_;
     PerlinSetTable sets_;
     GeneratorSettings settings_;
-    int resizeMode_ = qbGenerator::Bilinear;
-    int mode_ = Add;
+    int resizeMode_ = Bilinear;
+    int mode_ = ModifyModes::Add;
     RecordingHost host_;
     Picture pictures_[5];
 };
@@ -160,8 +156,9 @@ TEST_F(Generator, LeavesTheTerrainAsItWasWhenARunFails) {
     std::filesystem::remove(folder_ / "Test05.png");
     expectFault("Test05.png: No such file");
     WriteText(folder_ / "Test05.png", picture);
-    mode_ = Multiplication;
-    EXPECT_THROW(Generate(terrain, 128), Fault);
+    mode_ = ModifyModes::Multiplication;
+    settings_.clearTerrain = false;
+    EXPECT_THROW(ProduceTerrain(terrain, 128, settings_, {sets_, 1, mode_}, host_), Fault);
     EXPECT_EQ(AllCells(terrain), before);
     sets_.folder = folder_ / "none";
     expectFault("Perlin Path not exists");
@@ -170,7 +167,7 @@ TEST_F(Generator, LeavesTheTerrainAsItWasWhenARunFails) {
 TEST_F(Generator, DrawsAPreviewOverAReducedCopy) {
     RandomSource chance(2);
     const clsTerrain current = RandomGrid(257, -9000, 9000, chance);
-    const GeneratorContext context{sets_, resizeMode_, highest};
+    const GeneratorContext context{sets_, resizeMode_, ModifyModes::highest};
     clsTerrain relief = PreviewOf(current, true, settings_, context, host_);
     EXPECT_EQ(relief.XPoints(), 129);
     clsTerrain expected = relief;

@@ -88,7 +88,7 @@ TEST_F(Commands, SavedAndBackedUpTerrainsComeBack) {
     ClearTerrain(session.document, 5);
     RestoreTerrain(session.document, folder / "b.qbt");
     EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
-    EXPECT_TRUE(session.document.TerrainEmpty);
+    EXPECT_FALSE(session.document.TerrainEmpty);
 
     ClearTerrain(session.document, 5);
     EXPECT_TRUE(OpenTerrain(session.document, session.tools.LoadMemory, file, host));
@@ -97,16 +97,16 @@ TEST_F(Commands, SavedAndBackedUpTerrainsComeBack) {
 }
 
 TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
-    session.tools.ModifyMode = Subtraction;
+    session.tools.ModifyMode = ModifyModes::Subtraction;
     ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128, {.seed = "1"},
                    host);
-    EXPECT_EQ(session.tools.ModifyMode, Subtraction);
+    EXPECT_EQ(session.tools.ModifyMode, ModifyModes::Subtraction);
 
-    session.tools.ModifyMode = Multiplication;
+    session.tools.ModifyMode = ModifyModes::Multiplication;
     ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128,
                    {.seed = "1", .clearTerrain = true}, host);
     EXPECT_EQ(session.document.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
-    EXPECT_EQ(session.tools.ModifyMode, Add);
+    EXPECT_EQ(session.tools.ModifyMode, ModifyModes::Add);
 
     ClearTerrain(session.document, 129);
     ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128, {.seed = "1"},
@@ -117,13 +117,13 @@ TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
 
 TEST_F(Commands, GeneratorFileCarriesSeedAndModeOfTheSession) {
     session.tools.RandomSeedValue = 4711;
-    session.tools.ModifyMode = highest;
+    session.tools.ModifyMode = ModifyModes::highest;
     SaveGenerator(session.tools, folder / "a.par", {.iterations = 7, .seed = {}});
     session.tools.RandomSeedValue = 0;
-    session.tools.ModifyMode = Add;
+    session.tools.ModifyMode = ModifyModes::Add;
     EXPECT_EQ(LoadGenerator(session.tools, folder / "a.par", 0).iterations, 7);
     EXPECT_EQ(session.tools.RandomSeedValue, 4711);
-    EXPECT_EQ(session.tools.ModifyMode, highest);
+    EXPECT_EQ(session.tools.ModifyMode, ModifyModes::highest);
     WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\n");
     EXPECT_EQ(LoadGenerator(session.tools, folder / "far.par", 0).seed, "1e10");
     EXPECT_EQ(session.tools.RandomSeedValue, 2147483647);

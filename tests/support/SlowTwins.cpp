@@ -58,6 +58,43 @@ std::int64_t ScaleTerrain(clsTerrain& t) {
     return t.Range();
 }
 
+namespace {
+
+void SetPointWide(clsTerrain& t, std::int64_t x, std::int64_t y, Height z) {
+    if (std::abs(x) <= INT16_MAX && std::abs(y) <= INT16_MAX)
+        t.SetPoint(static_cast<int>(x), static_cast<int>(y), z);
+}
+
+}  // namespace
+
+void GetCircle(clsTerrain& t, std::int64_t x, std::int64_t y, std::int64_t r, Height z) {
+    for (std::int64_t i = 0; i <= r; ++i) {
+        const auto h = std::llrint(std::sqrt(static_cast<double>(r * r - i * i)));
+        for (std::int64_t j = 0; j <= h; ++j)
+            for (const std::int64_t column : {x + i, x - i})
+                for (const std::int64_t row : {y + j, y - j})
+                    SetPointWide(t, column, row, z);
+    }
+}
+
+void GetSquare(clsTerrain& t, std::int64_t x, std::int64_t y, std::int64_t r, Height z) {
+    for (std::int64_t i = -r; i <= r; ++i)
+        for (std::int64_t j = -r; j <= r; ++j)
+            SetPointWide(t, x + i, y + j, z);
+}
+
+void GetNoise(clsTerrain& t, std::int64_t x, std::int64_t y, std::int64_t r, Height z,
+              RandomSource& chance) {
+    const auto place = [&](std::int64_t centre) {
+        return std::llrint(2 * chance.Uniform() * double(r) + double(centre) - double(r));
+    };
+    for (std::int64_t i = 0; i < r; ++i) {
+        const auto column = place(x);
+        const auto row = place(y);
+        SetPointWide(t, column, row, z);
+    }
+}
+
 void DoubleGrid(SquareArray& grid, int& n, int mode, int roughness, RandomSource& chance) {
     SquareArray out(2 * n + 1, 0);
     double r = roughness / 200.0;

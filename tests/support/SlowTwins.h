@@ -10,6 +10,12 @@ namespace quillbrand::SlowTwins {
 
 std::int64_t ScaleTerrain(clsTerrain& terrain);
 
+/// The shapes of the pens, point by point in wide integers.
+void GetCircle(clsTerrain& terrain, std::int64_t x, std::int64_t y, std::int64_t r, Height z);
+void GetSquare(clsTerrain& terrain, std::int64_t x, std::int64_t y, std::int64_t r, Height z);
+void GetNoise(clsTerrain& terrain, std::int64_t x, std::int64_t y, std::int64_t r, Height z,
+              RandomSource& chance);
+
 void DoubleGrid(SquareArray& grid, int& n, int mode, int roughness, RandomSource& chance);
 
 void FilterSmooth(clsTerrain& terrain, const QBFilter::Area& area);

@@ -174,6 +174,52 @@ TEST(Shapes, AreCutAtTheGridAndRoundTheirCentreOnce) {
     EXPECT_EQ(terrain.max(), 9);
 }
 
+TEST(Shapes, AgreeWithTheSlowTwinsOnRandomGrids) {
+    RandomSource chance(21);
+    for (int turn = 0; turn < 300; ++turn) {
+        clsTerrain fast = RandomGrid(1 + turn % 12, -9, 9, chance);
+        clsTerrain slow = fast;
+        const int x = AnyOf(-20, 30, chance);
+        const int y = turn % 2 == 0 ? AnyOf(-20, 30, chance) : x;
+        const int r = AnyOf(-1, turn % 3 == 0 ? 40 : 9, chance);
+        RandomSource draws(7);
+        RandomSource twin(7);
+        fast.GetCircle(x, y, r, 100 + turn);
+        SlowTwins::GetCircle(slow, x, y, r, 100 + turn);
+        ASSERT_TRUE(SameGrid(fast, slow)) << "circle " << x << "," << y << " radius " << r;
+        fast.GetSquare(y, x, r, -turn);
+        SlowTwins::GetSquare(slow, y, x, r, -turn);
+        ASSERT_TRUE(SameGrid(fast, slow)) << "square " << y << "," << x << " radius " << r;
+        fast.GetNoise(x, y, r, 1000 + turn, draws);
+        SlowTwins::GetNoise(slow, x, y, r, 1000 + turn, twin);
+        ASSERT_TRUE(SameGrid(fast, slow)) << "noise " << x << "," << y << " radius " << r;
+        ASSERT_EQ(draws.Uniform(), twin.Uniform());
+    }
+}
+
+TEST(Shapes, AreTakenWideWhereverTheirCentreLiesAndHoweverLargeTheyAre) {
+    constexpr double end = 2147483647;
+    clsTerrain terrain = GridFrom("0 0 0 / 0 0 0 / 0 0 0");
+    const clsTerrain before = terrain;
+    RandomSource chance(3);
+    for (const double far : {-end - 1, end}) {
+        terrain.GetCircle(far, 1, 61, 5);
+        terrain.GetSquare(1, far, 61, 5);
+        terrain.GetNoise(far, far, 61, 5, chance);
+    }
+    EXPECT_TRUE(SameGrid(terrain, before));
+    // From 2^31 - 1 this radius reaches the column 1.
+    terrain.GetCircle(end, 1, 2147483646, 5);
+    EXPECT_EQ(TextOf(terrain), "0 0 5 / 0 5 5 / 0 0 5");
+    terrain.GetSquare(-end, 0, 2147483647, 6);
+    EXPECT_EQ(TextOf(terrain), "6 0 5 / 6 5 5 / 6 0 5");
+    terrain.GetCircle(0, 0, 2147483647, 7);
+    EXPECT_EQ(terrain.Measure(terrain.Cells()), (Extremes{7, 7}));
+    terrain.GetSquare(0, 0, 2147483647, 8);
+    EXPECT_EQ(terrain.Measure(terrain.Cells()), (Extremes{8, 8}));
+    EXPECT_EQ(terrain.max(), 8);
+}
+
 TEST(TerrainArrays, CopyAllCellsBothWays) {
     RandomSource chance(9);
     const clsTerrain terrain = RandomGrid(6, -50, 50, chance);

@@ -36,14 +36,14 @@ int DrawnPixels(const QImage& picture, const QColor& colour) {
 }
 
 TEST(ModifyDialog, GivesTheModeThatIsTicked) {
-    dlgGenModify dialog(Division);
+    dlgGenModify dialog(ModifyModes::Division);
     dialog.show();
-    EXPECT_EQ(dialog.Mode(), Division);
+    EXPECT_EQ(dialog.Mode(), ModifyModes::Division);
     ClickIn(dialog, "optModifyTerrain6");
     ClickIn(dialog, "OKButton");
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(dialog.Mode(), lowest);
+    EXPECT_EQ(dialog.Mode(), ModifyModes::lowest);
 }
 
 TEST(ModifyDialog, KeepsAModeThatHasNoOption) {
@@ -56,7 +56,7 @@ TEST(ModifyDialog, KeepsAModeThatHasNoOption) {
 }
 
 TEST(Dialogs, CloseByEscape) {
-    dlgGenModify modify(Add);
+    dlgGenModify modify(ModifyModes::Add);
     dlgPreview preview;
     dlgSaveAs saveAs;
     frmAbout about;

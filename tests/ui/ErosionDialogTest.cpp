@@ -35,7 +35,7 @@ class Erosion : public WindowFixture {
         ShowTab("Effects");
         Click("optFilter11");
         // As if the heights did not fill their range.
-        session_.document.CurrentTerrain.SetPoint(50, 50, 40000);
+        Edit([&](clsTerrain& terrain) { terrain.SetPoint(50, 50, 40000); });
     }
 
     /// What the effect makes of the terrain with these settings, and with the window's chance.

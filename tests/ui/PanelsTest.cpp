@@ -44,30 +44,6 @@ constexpr auto smooth = "optFilter0";
 constexpr auto riverErosion = "optFilter4";
 constexpr auto optimized = "optFilter10";
 
-TEST_F(Effects, ListAllTwelveAndOfferAllButRain) {
-    for (const QBFilter::Effect& effect : QBFilter::Effects()) {
-        const std::string name = "optFilter" + std::to_string(effect.code - 1);
-        auto* option = Find<QRadioButton>(name.c_str());
-        EXPECT_EQ(option->text().toStdString(), effect.caption);
-        EXPECT_EQ(option->property("Index").toInt(), effect.code - 1);
-        EXPECT_EQ(option->isEnabled(), effect.code != 9) << effect.caption;
-        EXPECT_EQ(option->toolTip(), effect.code == 12 ? "experimental (BETA)" : "");
-    }
-    EXPECT_TRUE(IsTicked(smooth));
-}
-
-TEST_F(Effects, AreVisitedByTheTabKeyAsTheEyeGoes) {
-    Find<QWidget>(smooth)->setFocus();
-    QStringList visited;
-    for (int i = 0; i < 8; ++i) {
-        QTest::keyClick(window_->focusWidget(), Qt::Key_Tab);
-        visited += window_->focusWidget()->objectName();
-    }
-    EXPECT_EQ(visited,
-              QStringList({"cmdElevatorPar", "sldEffectFactor", "cmdZrangeReset", "sldZMin",
-                           "txtZMin", "sldZMax", "txtZmax", "cmdStartEffects"}));
-}
-
 TEST_F(Effects, KeepsStrengthsOneOff) {
     Keys("sldEffectFactor", {Qt::Key_Right, Qt::Key_Right});
     EXPECT_EQ(session_.tools.EffectStrength[0], 1);
@@ -87,14 +63,6 @@ TEST_F(Effects, KeepsStrengthsOneOff) {
     session_.tools.EffectStrength[1] = 9;
     Click(smooth);
     EXPECT_EQ(session_.tools.EffectStrength[1], 9) << "the slider stayed, so it wrote nothing";
-}
-
-TEST_F(Effects, AreChosenByArrowKeysAsByClicks) {
-    session_.tools.EffectStrength.fill(4);
-    Find<QWidget>(smooth)->setFocus();
-    Keys(smooth, {Qt::Key_Down});
-    EXPECT_FALSE(IsTicked(smooth));
-    EXPECT_EQ(Value("sldEffectFactor"), 4);
 }
 
 TEST_F(Effects, PushOneLimitByTheOther) {
@@ -206,7 +174,6 @@ TEST_F(Panels, TickTheSizeThatFitsAndNoOther) {
                 names += option->objectName();
         return names;
     };
-    EXPECT_EQ(session_.tools.chosenSize, std::nullopt);
     panel.TickSize(512);
     EXPECT_EQ(ticked(), QStringList("optTerSize2"));
     EXPECT_EQ(session_.tools.chosenSize, 512);

@@ -1,4 +1,6 @@
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <fstream>
 
@@ -33,7 +35,15 @@ TEST_F(TerragenKey, SavesANewDocumentUnderAChosenNameAndStartsTheRenderer) {
     const std::string file = (folder_ / "my hill.ter").string();
     EXPECT_TRUE(window_->windowTitle().contains(QString::fromStdString(file)));
     std::string arguments;
-    std::getline(std::ifstream(folder_ / "arguments"), arguments);
+    // Non-blocking, so that a renderer that does not start is a failure and no endless wait.
+    const int pipe = open((folder_ / "arguments").c_str(), O_RDONLY | O_NONBLOCK);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        char byte = 0;
+        while (read(pipe, &byte, 1) == 1 && byte != '\n')
+            arguments += byte;
+        return byte == '\n';
+    }));
+    close(pipe);
     EXPECT_EQ(arguments, "-t " + file);
 }
 

@@ -40,7 +40,7 @@ void ModalUser::timerEvent(QTimerEvent* event) {
     killTimer(event->timerId());
     startTimer(1);
     QWidget* modal = QApplication::activeModalWidget();
-    if (Users().last() != this || modal == nullptr || !modal->isVisible())
+    if (Users().last() != this || modal == nullptr || !modal->isVisible() || modal == inHand_)
         return;
     if (const auto* box = qobject_cast<QMessageBox*>(modal))
         seen += box->windowTitle() + ": " + box->text();
@@ -50,7 +50,9 @@ void ModalUser::timerEvent(QTimerEvent* event) {
         modal->close();
         return;
     }
+    inHand_ = modal;
     actions_.takeFirst()(modal);
+    inHand_ = nullptr;
 }
 
 ModalUser::Action Press(const QString& caption) {

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+#include "terrain/HeightsChange.h"
 #include "tests/support/TemporaryFolder.h"
 #include "ui/frmTer.h"
 
@@ -34,6 +35,7 @@ class ModalUser : public QObject {
 
   private:
     QList<Action> actions_;
+    QWidget* inHand_ = nullptr;  ///< what an action works on, which may let events through
 };
 
 /// Presses the button of a message box or dialog that has this caption, "&" apart.
@@ -78,6 +80,14 @@ class WindowFixture : public ::testing::Test {
     void Produce(const char* seed);
 
     std::vector<Height> Heights();
+
+    /// Changes heights behind the window's back, as a step of the history.
+    template <typename Change>
+    void Edit(Change change) {
+        HeightsChange step(session_.document, "Edit");
+        change(session_.document.CurrentTerrain);
+        step.Commit();
+    }
 
     TemporaryFolder folder_;
     RandomSource chance_{5};

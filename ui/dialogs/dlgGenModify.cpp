@@ -43,7 +43,7 @@ QWidget* dlgGenModify::BuildOptions() {
     grid->setSpacing(gap);
     optModifyTerrain_ = new QButtonGroup(this);
     constexpr int rows = 3;
-    for (int mode = Add; mode <= lowest; ++mode) {
+    for (int mode = ModifyModes::Add; mode <= ModifyModes::lowest; ++mode) {
         const std::string_view caption = modifyCaptions.at(std::size_t(mode));
         auto* option =
             new QRadioButton(QString::fromUtf8(caption.data(), qsizetype(caption.size())));
@@ -51,7 +51,8 @@ QWidget* dlgGenModify::BuildOptions() {
         option->setProperty("Index", mode);
         option->setChecked(mode == given_);
         optModifyTerrain_->addButton(option, mode);
-        grid->addWidget(option, (mode - Add) % rows, (mode - Add) / rows, Qt::AlignLeft);
+        const int place = mode - ModifyModes::Add;
+        grid->addWidget(option, place % rows, place / rows, Qt::AlignLeft);
     }
     return frame;
 }

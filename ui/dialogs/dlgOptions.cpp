@@ -218,8 +218,7 @@ void dlgOptions::OKButton_Click() {
         settings.ResizeMode = Option2_->checkedId();
     settings.PaletteRow = List1_->currentRow();
     settings.historyMegabytes = spnHistory_->value();
-    const QColor window = workplace_.Window()->palette().color(QPalette::Window);
-    settings.BackColor = ColourOf(window.red(), window.green(), window.blue());
+    settings.BackColor = ColourOf(workplace_.Window()->palette().color(QPalette::Window));
     SaveOptions(workplace_.TheSession().settings, settings);
     workplace_.TheSession().document.history.Megabytes(settings.historyMegabytes);
     accept();

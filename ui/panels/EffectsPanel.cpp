@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 
 #include "base/NumberText.h"
-#include "base/ShownNumber.h"
 #include "effects/QBFilter.h"
 #include "shell/EffectCommands.h"
 #include "ui/controls/Controls.h"
@@ -201,7 +200,7 @@ void EffectsPanel::sldZMax_Change() {
 void EffectsPanel::Refresh() {
     const clsTerrain& terrain = workplace_.TheSession().document.CurrentTerrain;
     const auto metres = [&](const QSlider* limit) {
-        return QString::fromStdString(ShownNumber([&] {
+        return QString::fromStdString(ShownText([&] {
             return PlainText(terrain.GetV2Meter(static_cast<float>(limit->value() - sliderZero)));
         }));
     };

@@ -134,8 +134,17 @@ QPointF PictureBox::InUnits(QPointF place) const {
     return {place.x() / scale.width(), place.y() / scale.height()};
 }
 
+QPointF PictureBox::InPixels(QPointF place) const {
+    const QSizeF scale = PixelsPerUnit();
+    return {place.x() * scale.width(), place.y() * scale.height()};
+}
+
 PlanMouse PictureBox::MouseOf(const QMouseEvent& event) const {
-    return {InUnits(event.position()), event.button(), event.buttons(), event.modifiers()};
+    return {.place = InUnits(event.position()),
+            .button = event.button(),
+            .held = event.buttons(),
+            .keys = event.modifiers(),
+            .isDouble = event.type() == QEvent::MouseButtonDblClick};
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event) {
@@ -165,7 +174,7 @@ void PictureBox::leaveEvent(QEvent* event) {
 
 void PictureBox::wheelEvent(QWheelEvent* event) {
     emit WheelTurned(
-        {InUnits(event->position()), Qt::NoButton, event->buttons(), event->modifiers()},
+        {.place = InUnits(event->position()), .held = event->buttons(), .keys = event->modifiers()},
         event->angleDelta().y());
 }
 

@@ -32,6 +32,9 @@ class PictureBox : public QWidget {
     /// The units across the widget, in both directions; 1 a pixel of the widget when 0.
     void SetUnits(double units);
 
+    /// Where in the widget a place in units is.
+    QPointF InPixels(QPointF place) const;
+
     /// What shows where there is no raster.
     void SetBackColor(QColor colour);
 

@@ -11,6 +11,7 @@ struct PlanMouse {
     Qt::MouseButton button = Qt::NoButton;        ///< that went down or up; none in a move
     Qt::MouseButtons held = Qt::NoButton;         ///< that are down after the event
     Qt::KeyboardModifiers keys = Qt::NoModifier;  ///< Shift, Ctrl and the like
+    bool isDouble = false;                        ///< the second press of a double click
 };
 
 }  // namespace quillbrand

@@ -1,6 +1,7 @@
 #include "ui/plan/ToolStrip.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QVBoxLayout>
 #include <span>
 
@@ -34,19 +35,37 @@ constexpr Tool penShapes[] = {
     {"PenNoise", "Pen noise", "pen-noise"},
 };
 
+constexpr auto roundSelection = "SelectRound";
+
+/// Buttons of which only one is down at a time, once one is.
 QToolBar* MakeStrip(const char* name, std::span<const Tool> entries) {
     auto* strip = new QToolBar;
     strip->setObjectName(QLatin1String(name));
     strip->setOrientation(Qt::Vertical);
     strip->setIconSize(QSize(24, 24));
+    auto* group = new QActionGroup(strip);
     for (const Tool& tool : entries) {
         QAction* action = strip->addAction(QLatin1String(tool.key));
         action->setObjectName(QLatin1String(tool.key));
         action->setToolTip(QLatin1String(tool.toolTip));
         action->setData(QLatin1String(tool.icon));
+        action->setCheckable(true);
+        group->addAction(action);
+        if (QWidget* button = strip->widgetForAction(action)) {
+            button->setObjectName(QLatin1String(tool.key));
+            button->setFocusPolicy(Qt::TabFocus);
+        }
     }
-    strip->setEnabled(false);
     return strip;
+}
+
+PenShape ShapeOf(const QAction* action) {
+    for (int i = 0; const Tool& shape : penShapes) {
+        ++i;
+        if (action->objectName() == QLatin1String(shape.key))
+            return static_cast<PenShape>(i);
+    }
+    return PenShape::None;
 }
 
 }  // namespace
@@ -60,7 +79,22 @@ ToolStrip::ToolStrip(QWidget* parent)
     layout->addWidget(Toolbar2_);
     layout->addWidget(ToolBarPen_);
     layout->addStretch();
+    Toolbar2_->findChild<QAction*>(QLatin1String(roundSelection))->setVisible(false);
+    ShowTool(QLatin1String(firstTool));
+    EnablePens(false);
+    connect(Toolbar2_, &QToolBar::actionTriggered, this,
+            [this](const QAction* action) { emit Toolbar2_ButtonClick(action->objectName()); });
+    connect(ToolBarPen_, &QToolBar::actionTriggered, this,
+            [this](const QAction* action) { emit ToolBarPen_ButtonClick(ShapeOf(action)); });
     TintIcons(palette());
+}
+
+void ToolStrip::ShowTool(const QString& key) {
+    Toolbar2_->findChild<QAction*>(key)->setChecked(true);
+}
+
+void ToolStrip::EnablePens(bool enable) {
+    ToolBarPen_->setEnabled(enable);
 }
 
 void ToolStrip::TintIcons(const QPalette& colours) {
