@@ -10,11 +10,25 @@ namespace quillbrand {
 enum class Buttons { OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
+/// What a question is about, for hosts that answer without a person.
+enum class QuestionId {
+    Other,
+    Refine,          ///< stretch the heights of a file that uses few of the steps
+    Repair,          ///< fill the holes of an elevation file
+    Adjust,          ///< keep the side length in metres when the number of points changes
+    Remake,          ///< compute an object anew because its mask has changed
+    Clear,           ///< drop the heights
+    ScaleHeights,    ///< let the heights grow with the side length
+    SaveFirst,       ///< save before the renderer starts
+    SaveBeforeExit,  ///< save before the program ends
+};
+
 /// A question in a message box. A message that ends a command is a Fault instead.
 struct Question {
     std::string text;
     std::string title;
     Buttons buttons = Buttons::YesNo;
+    QuestionId id = QuestionId::Other;
 };
 
 /// The one way in which long work talks to the outside: the editor's window, the batch program's

@@ -19,6 +19,9 @@ struct Batch {
     void Print(const std::string& text);
 };
 
+/// `text` with each control character as \xNN.
+std::string OnOneLine(const std::string& text);
+
 /// Writes `text` to standard output at once. Throws Fault when it does not get through.
 void WriteOutput(const std::string& text);
 

@@ -47,10 +47,24 @@ void BatchHost::ClearLine() {
     std::fflush(stderr);
 }
 
+void BatchHost::SetAnswer(QuestionId id, bool yes) {
+    if (yes)
+        yes_.insert(id);
+    else
+        yes_.erase(id);
+}
+
 Answer BatchHost::Ask(const Question& question) {
-    if (question.buttons == Buttons::OkCancel)
-        return yes_ ? Answer::Ok : Answer::Cancel;
-    return yes_ ? Answer::Yes : Answer::No;
+    const bool yes = yes_.contains(question.id);
+    switch (question.buttons) {
+        case Buttons::OkCancel:
+            return yes ? Answer::Ok : Answer::Cancel;
+        case Buttons::YesNo:
+            return yes ? Answer::Yes : Answer::No;
+        case Buttons::YesNoCancel:
+            return yes ? Answer::Yes : Answer::Cancel;
+    }
+    return Answer::Cancel;
 }
 
 }  // namespace quillbrand

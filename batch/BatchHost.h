@@ -1,21 +1,23 @@
 #pragma once
 
 #include <chrono>
+#include <set>
 #include <string>
 
 #include "shell/SessionHost.h"
 
 namespace quillbrand {
 
-/// The host of the batch program: a progress line on standard error, one prepared answer to every
-/// question.
+/// The host of the batch program: a progress line on standard error, prepared answers to the
+/// questions.
 class BatchHost : public SessionHost {
   public:
     /// Without `showProgress` nothing is ever written.
     BatchHost(Session& session, RandomSource& chance, bool showProgress);
 
-    /// How the questions of the command in hand are answered.
-    void AnswerYes(bool yes) { yes_ = yes; }
+    /// How a question of the command in hand is answered. Without this it is No or Cancel.
+    void SetAnswer(QuestionId id, bool yes);
+    void ForgetAnswers() { yes_.clear(); }
 
     /// Takes the progress line off the terminal.
     void ClearLine();
@@ -32,7 +34,7 @@ class BatchHost : public SessionHost {
     void Draw(const std::string& line);
 
     bool showProgress_;
-    bool yes_ = false;
+    std::set<QuestionId> yes_;  ///< the questions that are answered so
     std::string status_;
     int percent_ = 0;
     std::size_t drawn_ = 0;  ///< characters that stand on the terminal

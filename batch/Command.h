@@ -14,6 +14,8 @@ struct Batch;
 struct Argument {
     std::string key;
     Value value;
+
+    bool operator==(const Argument&) const = default;
 };
 
 /// What a command was given, in the order given, with the defaults of the table behind it.
@@ -50,14 +52,18 @@ class Arguments {
 /// A command of the program: everything that parsing it, running it and the help need.
 struct Command {
     std::string word;
-    std::string summary;  ///< for the help
-    std::vector<Key> keys;
+    std::string summary;         ///< for the help
+    std::vector<Key> keys = {};  ///< `replace` joins those that write a file
     void (*run)(Batch&, const Arguments&);
-    bool needsAnyKey = false;  ///< makes no sense without a key
+    bool needsAnyKey = false;   ///< makes no sense without a key
+    bool needsHistory = false;  ///< steps are kept only for a script that has such a command
 };
 
 /// Every command, in the order of the help.
 const std::vector<Command>& AllCommands();
+
+/// Throws UsageError for a word that is no command.
+const Command& FindCommand(const std::string& word);
 
 // The commands of each subject, for the table.
 std::vector<Command> TerrainCommandTable();
@@ -66,5 +72,6 @@ std::vector<Command> GeneratorCommandTable();
 std::vector<Command> EffectCommandTable();
 std::vector<Command> ElevatorCommandTable();
 std::vector<Command> PrintCommandTable();
+std::vector<Command> HistoryCommandTable();
 
 }  // namespace quillbrand

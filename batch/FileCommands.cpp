@@ -13,22 +13,17 @@ namespace quillbrand {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> openKinds = {"ter", "hgt", "picture"};
-constexpr std::array gridPoints = {129, 257, 513, 1025, 2049};
+constexpr std::array<std::string_view, 1> openKinds = {"ter"};
 
-std::string KindByExtension(const std::filesystem::path& file) {
-    const std::string extension = LowerCase(file.extension().string());
-    if (extension == ".ter")
-        return "ter";
-    return extension == ".hgt" ? "hgt" : "picture";
+void RequireTerExtension(const std::string& file) {
+    if (LowerCase(std::filesystem::path(file).extension().string()) != ".ter")
+        throw Fault("file=" + file + " does not end in .ter; as=ter reads it as a terrain");
 }
 
 void Open(Batch& batch, const Arguments& given) {
     const auto file = given.Get<std::string>("file");
-    const std::string kind = given.GetOr("as", KindByExtension(file));
-    if (kind != "ter")
-        throw Fault("opening " + file + " as " + kind + " is not available in this version");
-    batch.host.AnswerYes(given.Get<bool>("refine"));
+    if (given.Find("as") == nullptr)
+        RequireTerExtension(file);
     if (!OpenTerrain(batch.session.document, batch.session.tools.LoadMemory, file, batch.host))
         throw Fault(file + " is not a Terragen terrain");
 }
@@ -66,20 +61,25 @@ std::vector<Command> FileCommandTable() {
         {"open",
          "reads a terrain",
          {file, Key{"as", OneOf(openKinds)}.Otherwise("by the extension"),
-          Key{"refine", YesNo()}.Default("no"), Key{"repair", YesNo()}.Default("no"),
-          Key{"points", OneOf(gridPoints)}},
+          Key{"refine", YesNo()}.Default("no").Answers(QuestionId::Refine)},
          Open},
-        {"save", "writes the terrain as TER", {file, Key{"scale", YesNo()}.Default("yes")}, Save},
+        {"save",
+         "writes the terrain as TER",
+         {file.Writes(FileKind::Terrain), Key{"scale", YesNo()}.Default("yes")},
+         Save},
         {"picture",
          "writes the height picture, one pixel a point",
-         {Key{"file", PictureName()}.Required(),
+         {Key{"file", PictureName()}.Required().Writes(FileKind::Picture),
           Key{"row", Choice(PaletteNames(), 0)}.Default("0")},
          SavePicture},
-        {"backup", "writes heights and header values as they are", {file}, Backup},
+        {"backup",
+         "writes heights and header values as they are",
+         {file.Writes(FileKind::Backup)},
+         Backup},
         {"restore", "brings back what backup wrote", {file}, Restore},
         {"perlinset",
          "writes the terrain as a .QPS file",
-         {file, Key{"name", AnyText()}.Required()},
+         {file.Writes(FileKind::PerlinSet), Key{"name", AnyText()}.Required()},
          SavePerlin},
     };
 }

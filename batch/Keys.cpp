@@ -1,178 +1,10 @@
 #include "batch/Keys.h"
 
 #include <cassert>
-#include <charconv>
-#include <cmath>
-#include <limits>
-#include <sstream>
 
-#include "base/NumberText.h"
-#include "base/Picture.h"
-#include "base/Stdio.h"
-#include "base/Text.h"
 #include "batch/UsageError.h"
 
 namespace quillbrand {
-
-namespace {
-
-template <typename Parsed>
-std::optional<Parsed> ReadAll(std::string_view text) {
-    if (text.starts_with("+") && !text.starts_with("+-"))
-        text.remove_prefix(1);
-    Parsed value{};
-    const char* const end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, value);
-    if (result.ec != std::errc() || result.ptr != end)
-        return std::nullopt;
-    return value;
-}
-
-template <typename Item, typename ToText>
-std::string Listed(std::span<const Item> items, ToText toText) {
-    std::string list;
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (i > 0)
-            list += i + 1 == items.size() ? " or " : ", ";
-        list += toText(items[i]);
-    }
-    return list;
-}
-
-std::optional<Value> WholeWithin(const std::string& text, int low, int high) {
-    const auto number = ReadWhole(text);
-    if (!number || *number < low || *number > high)
-        return std::nullopt;
-    return static_cast<int>(*number);
-}
-
-std::optional<Value> ReadYesNo(const std::string& text) {
-    if (EqualIgnoringCase(text, "yes"))
-        return true;
-    if (EqualIgnoringCase(text, "no"))
-        return false;
-    return std::nullopt;
-}
-
-std::optional<PicturePoint> ReadPoint(std::string_view text) {
-    const auto comma = text.find(',');
-    if (comma == std::string_view::npos)
-        return std::nullopt;
-    const auto x = ReadNumber(text.substr(0, comma));
-    const auto y = ReadNumber(text.substr(comma + 1));
-    if (!x || !y)
-        return std::nullopt;
-    return PicturePoint{*x, *y};
-}
-
-std::optional<Value> ReadPoints(const std::string& text) {
-    std::vector<PicturePoint> points;
-    std::istringstream words(text);
-    for (std::string word; words >> word;) {
-        const auto point = ReadPoint(word);
-        if (!point)
-            return std::nullopt;
-        points.push_back(*point);
-    }
-    return points.empty() ? std::nullopt : std::optional<Value>(std::move(points));
-}
-
-/// Captions as they are compared.
-std::string Plain(std::string_view caption) {
-    return LowerCase(STDIO::TrimmedText(caption));
-}
-
-}  // namespace
-
-std::optional<double> ReadNumber(std::string_view text) {
-    const auto number = ReadAll<double>(text);
-    return number && std::isfinite(*number) ? number : std::nullopt;
-}
-
-std::optional<long long> ReadWhole(std::string_view text) {
-    return ReadAll<long long>(text);
-}
-
-KeyType AnyText() {
-    return {"a text", [](const std::string& text) { return std::optional<Value>(text); }};
-}
-
-KeyType FileName() {
-    return {"a file name", [](const std::string& text) {
-                return text.empty() ? std::nullopt : std::optional<Value>(text);
-            }};
-}
-
-KeyType PictureName() {
-    return {"a file name that ends in .png or .bmp", [](const std::string& text) {
-                return IsPictureName(text) ? std::optional<Value>(text) : std::nullopt;
-            }};
-}
-
-KeyType WholeNumber() {
-    return WholeNumber(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-}
-
-KeyType WholeNumber(int low, int high) {
-    return {"a whole number from " + std::to_string(low) + " to " + std::to_string(high),
-            [low, high](const std::string& text) { return WholeWithin(text, low, high); }};
-}
-
-KeyType Number() {
-    constexpr double most = std::numeric_limits<float>::max();
-    return {"a number that a single float can hold", Number(-most, most).read};
-}
-
-KeyType Number(double low, double high) {
-    return {"a number from " + ShortestText(low) + " to " + ShortestText(high),
-            [low, high](const std::string& text) -> std::optional<Value> {
-                const auto number = ReadNumber(text);
-                if (!number || *number < low || *number > high)
-                    return std::nullopt;
-                return *number;
-            }};
-}
-
-KeyType YesNo() {
-    return {"yes or no", ReadYesNo};
-}
-
-KeyType PointList() {
-    return {"points as \"x,y x,y ...\"", ReadPoints};
-}
-
-KeyType OneOf(std::span<const int> numbers) {
-    return {Listed(numbers, [](int number) { return std::to_string(number); }),
-            [numbers](const std::string& text) -> std::optional<Value> {
-                for (const int number : numbers)
-                    if (ReadWhole(text) == number)
-                        return number;
-                return std::nullopt;
-            }};
-}
-
-KeyType OneOf(std::span<const std::string_view> words) {
-    return {Listed(words, [](std::string_view word) { return std::string(word); }),
-            [words](const std::string& text) -> std::optional<Value> {
-                for (const auto word : words)
-                    if (EqualIgnoringCase(text, word))
-                        return std::string(word);
-                return std::nullopt;
-            }};
-}
-
-KeyType Choice(std::span<const std::string_view> captions, int first) {
-    const std::vector<std::string_view> all(captions.begin(), captions.end());
-    const int last = first + static_cast<int>(all.size()) - 1;
-    return {Listed(captions, [](std::string_view caption) { return STDIO::TrimmedText(caption); }) +
-                ", or its number from " + std::to_string(first) + " to " + std::to_string(last),
-            [all, first, last](const std::string& text) {
-                for (std::size_t i = 0; i < all.size(); ++i)
-                    if (Plain(all[i]) == Plain(text))
-                        return std::optional<Value>(first + static_cast<int>(i));
-                return WholeWithin(Plain(text), first, last);
-            }};
-}
 
 Key Key::Required() const {
     Key key = *this;
@@ -196,6 +28,18 @@ Key Key::Default(const std::string& text) const {
 Key Key::Otherwise(const std::string& words) const {
     Key key = *this;
     key.fallbackText = words;
+    return key;
+}
+
+Key Key::Answers(QuestionId id) const {
+    Key key = *this;
+    key.question = id;
+    return key;
+}
+
+Key Key::Writes(FileKind kind) const {
+    Key key = *this;
+    key.writes = kind;
     return key;
 }
 

@@ -1,16 +1,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <fstream>
-#include <iostream>
 #include <iterator>
 #include <new>
-#include <sstream>
-#include <system_error>
 
 #include "batch/Batch.h"
 #include "batch/Help.h"
@@ -28,11 +23,9 @@ enum ExitStatus : int { allDone = 0, commandFailed = 1, commandLineWrong = 2 };
 
 /// One line on standard error, whatever the texts hold.
 void Report(const std::string& command, const std::string& text, const std::string& place) {
-    std::string line = "quillbrand-batch: " + (command.empty() ? "" : command + ": ") + text +
-                       (place.empty() ? "" : " (" + place + ")");
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 127; };
-    std::replace_if(line.begin(), line.end(), isControl, ' ');
-    std::fprintf(stderr, "%s\n", line.c_str());
+    const std::string line = "quillbrand-batch: " + (command.empty() ? "" : command + ": ") + text +
+                             (place.empty() ? "" : " (" + place + ")");
+    std::fprintf(stderr, "%s\n", OnOneLine(line).c_str());
 }
 
 /// What an exception says to the user.
@@ -41,35 +34,34 @@ std::string TextOf(const std::exception& error) {
     return noMemory ? "there is not enough memory" : error.what();
 }
 
-/// Any kind of file will do here, a pipe included.
-std::string ReadScript(const std::string& file) {
-    if (file == "-")
-        return {std::istreambuf_iterator<char>(std::cin), {}};
-    std::ifstream stream(file, std::ios::binary);
-    std::ostringstream text;
-    if (stream.peek() != std::ifstream::traits_type::eof())
-        text << stream.rdbuf();
-    if (!stream.is_open() || stream.bad())
-        throw UsageError("-f: cannot read " + file + ": " + std::generic_category().message(errno));
-    return text.str();
-}
-
-/// The whole script, checked.
+/// All commands, checked: those of the scripts first.
 std::vector<Step> ReadSteps(const Options& options) {
-    if (!options.script && options.commands.empty())
+    if (options.scripts.empty() && options.commands.empty())
         throw UsageError("no command is given; --help lists all");
     std::vector<Step> steps;
-    if (options.script) {
-        const std::string name = *options.script == "-" ? "standard input" : *options.script;
-        steps = ParseScript(ReadScript(*options.script), name);
-    }
+    for (const std::string& script : options.scripts)
+        std::ranges::move(ParseScript(ReadScript(script), NameOfScript(script)),
+                          std::back_inserter(steps));
     for (const std::string& command : options.commands)
         steps.push_back(ParseCommand(command));
     return steps;
 }
 
+/// Readies the answers to the command's questions and looks at the files that it is to write.
+void Prepare(const Step& step, BatchHost& host) {
+    host.ForgetAnswers();
+    const bool replace = step.arguments.GetOr("replace", false);
+    for (const Key& key : step.command->keys) {
+        const Value* value = step.arguments.Find(key.name);
+        if (value != nullptr && key.question)
+            host.SetAnswer(*key.question, std::get<bool>(*value));
+        if (value != nullptr && key.writes && !replace)
+            RequireKind(key.name, std::get<std::string>(*value), *key.writes);
+    }
+}
+
 void RunStep(const Step& step, Batch& batch) {
-    batch.host.AnswerYes(false);
+    Prepare(step, batch.host);
     step.command->run(batch, step.arguments);
     batch.host.Busy(false);
     batch.host.ClearLine();
@@ -95,11 +87,19 @@ bool RunSteps(const std::vector<Step>& steps, Batch& batch, bool timings) {
     return true;
 }
 
+/// Keeping the way back costs time and memory, so only a script that takes it pays.
+HistoryMode ModeFor(const std::vector<Step>& steps) {
+    const bool isUsed =
+        std::ranges::any_of(steps, [](const Step& step) { return step.command->needsHistory; });
+    return isUsed ? HistoryMode::Steps : HistoryMode::Nothing;
+}
+
 int RunScript(const Options& options) {
     const std::vector<Step> steps = ReadSteps(options);
     RandomSource chance(options.randomSeed);
     Session session;
     SubMain(session, FindProgramFolder(PlacesOfThisProcess(options.home)), {}, chance);
+    session.document.history.Mode(ModeFor(steps));
     BatchHost host(session, chance, !options.quiet && isatty(STDERR_FILENO) == 1);
     Batch batch{.session = session, .host = host};
     return RunSteps(steps, batch, options.timings) ? allDone : commandFailed;
@@ -108,7 +108,7 @@ int RunScript(const Options& options) {
 int Run(int argc, const char* const* argv) {
     const Options options = ParseOptions(argc, argv);
     if (options.help)
-        WriteOutput(HelpText());
+        WriteOutput(HelpText(options.helpWord));
     else if (options.version)
         WriteOutput("quillbrand-batch " QB_VERSION "\n");
     else

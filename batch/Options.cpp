@@ -21,16 +21,21 @@ struct Parser {
 
     Parser() {
         app.set_help_flag();
-        app.add_option("-f", options.script,
-                       "read commands from FILE, one a line; - is standard input")
-            ->type_name("FILE");
+        // One file each, so that what follows stays a command.
+        app.add_option("-f", options.scripts,
+                       "read commands from FILE, one a line, before those given here; - is "
+                       "standard input")
+            ->type_name("FILE")
+            ->allow_extra_args(false);
         app.add_option("--home", options.home, "the program folder")->type_name("DIR");
         app.add_option("--random-seed", seed, "a fixed sequence of random numbers, 0 to 4294967295")
             ->type_name("N");
         app.add_flag("--timings", options.timings,
                      "the wall time of each command, in milliseconds");
-        app.add_flag("--quiet", options.quiet, "no progress");
-        app.add_flag("--help", options.help, "this list");
+        app.add_flag("--quiet,-q", options.quiet, "no progress");
+        app.add_option("--help,-h", options.helpWord, "this list, or one command alone")
+            ->type_name("[WORD]")
+            ->expected(0, 1);
         app.add_flag("--version", options.version, "the version");
         // Commands are what is left: the parser would take words in brackets apart.
         app.allow_extras();
@@ -60,6 +65,7 @@ Options ParseOptions(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         throw UsageError(error.what());
     }
+    parser.options.help = parser.app.count("--help") > 0;
     parser.options.commands = parser.app.remaining();
     for (const std::string& command : parser.options.commands)
         if (command.starts_with('-'))
@@ -77,7 +83,7 @@ std::string OptionsHelp() {
     for (const CLI::Option* option : parser.app.get_options()) {
         if (option->get_positional())
             continue;
-        const std::string name = option->get_name() + " " + option->get_type_name();
+        const std::string name = option->get_name(false, true) + " " + option->get_type_name();
         help << "  " << std::left << std::setw(18) << name << option->get_description() << "\n";
     }
     return help.str();

@@ -9,12 +9,13 @@ namespace quillbrand {
 
 /// The command line, its commands not yet parsed.
 struct Options {
-    std::optional<std::string> script;  ///< -f: a file, or "-" for standard input
+    std::vector<std::string> scripts;  ///< -f: files in their order; "-" is standard input
     std::string home;
     std::optional<std::uint32_t> randomSeed;
     bool timings = false;
     bool quiet = false;
     bool help = false;
+    std::string helpWord;  ///< the command to tell of, or empty for all
     bool version = false;
     std::vector<std::string> commands;
 };

@@ -39,8 +39,8 @@ std::vector<Command> PrintCommandTable() {
     return {
         {"print",
          "writes the print page as PDF, a page for each copy",
-         {Key{"file", PdfName()}.Required(), Key{"terrain", YesNo()}.Default("yes"),
-          Key{"settings", YesNo()}.Default("yes"),
+         {Key{"file", PdfName()}.Required().Writes(FileKind::Page),
+          Key{"terrain", YesNo()}.Default("yes"), Key{"settings", YesNo()}.Default("yes"),
           Key{"copies", WholeNumber(0, mostCopies)}.Default("1")},
          Print},
     };

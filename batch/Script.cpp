@@ -13,32 +13,37 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
+/// Takes what stands in double quotes off the front of `text`, the quotes too, and appends it to
+/// `word`. A doubled quote stands for one.
+void TakeQuoted(std::string_view& text, std::string& word) {
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        if (text[i] == '"' && text.substr(i + 1).starts_with('"')) {
+            ++i;
+        } else if (text[i] == '"') {
+            text.remove_prefix(i + 1);
+            return;
+        }
+        word += text[i];
+    }
+    throw UsageError("the quoted value " + word + " has no closing quote");
+}
+
 /// Takes the next word off the front of `text`; nothing at its end. Blanks inside double quotes
-/// belong to the word, the quotes do not.
+/// belong to the word.
 std::optional<std::string> TakeWord(std::string_view& text, bool comments) {
     text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
     if (text.empty() || (comments && text.front() == '#'))
         return std::nullopt;
     std::string word;
-    bool quoted = false;
-    std::size_t i = 0;
-    for (; i < text.size() && (quoted || blanks.find(text[i]) == std::string_view::npos); ++i) {
-        if (text[i] == '"')
-            quoted = !quoted;
-        else
-            word += text[i];
+    while (!text.empty() && blanks.find(text.front()) == std::string_view::npos) {
+        if (text.front() == '"') {
+            TakeQuoted(text, word);
+        } else {
+            word += text.front();
+            text.remove_prefix(1);
+        }
     }
-    if (quoted)
-        throw UsageError("the quoted value " + word + " has no closing quote");
-    text.remove_prefix(i);
     return word;
-}
-
-const Command& FindCommand(const std::string& word) {
-    for (const Command& command : AllCommands())
-        if (command.word == word)
-            return command;
-    throw UsageError("unknown command; --help lists all", word);
 }
 
 /// The keys of a command as a message lists them.
@@ -110,11 +115,14 @@ Step ParseCommand(const std::string& argument) {
     return std::move(*step);
 }
 
-std::vector<Step> ParseScript(const std::string& text, const std::string& name) {
-    if (text.find('\0') != std::string::npos)
+std::vector<Step> ParseScript(std::string_view text, const std::string& name) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark))
+        text.remove_prefix(byteOrderMark.size());
+    if (text.find('\0') != std::string_view::npos)
         throw UsageError(name + " is no script: it holds a NUL");
     std::vector<Step> steps;
-    std::istringstream lines(text);
+    std::istringstream lines{std::string(text)};
     std::string line;
     for (int number = 1; std::getline(lines, line); ++number) {
         const std::string place = "line " + std::to_string(number) + " of " + name;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "batch/Command.h"
@@ -19,7 +20,15 @@ struct Step {
 Step ParseCommand(const std::string& argument);
 
 /// The steps of a script: one command a line, `#` at the start of a word begins a comment, empty
-/// lines count for nothing. `name` is what messages call the script. Throws UsageError.
-std::vector<Step> ParseScript(const std::string& text, const std::string& name);
+/// lines count for nothing, nor does a byte order mark. `name` is what messages call the script.
+/// Throws UsageError.
+std::vector<Step> ParseScript(std::string_view text, const std::string& name);
+
+/// What messages call a script file; "-" is standard input.
+std::string NameOfScript(const std::string& file);
+
+/// The text of a script file. Throws UsageError for one that cannot be
+/// read to its end.
+std::string ReadScript(const std::string& file);
 
 }  // namespace quillbrand

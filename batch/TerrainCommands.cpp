@@ -1,13 +1,12 @@
 #include "shell/TerrainCommands.h"
 
-#include <array>
 #include <sstream>
 
 #include "base/NumberText.h"
 #include "batch/Batch.h"
-#include "batch/Command.h"
-#include "terrain/ScaleTerrainStep.h"
-#include "terrain/TerrainGuard.h"
+#include "batch/Deeds.h"
+#include "shell/TerrainMetres.h"
+#include "terrain/HeightsChange.h"
 
 namespace quillbrand {
 
@@ -21,12 +20,19 @@ void New(Batch& batch, const Arguments& given) {
     ClearTerrain(batch.session.document, given.Get<int>("points"));
 }
 
-void Info(Batch& batch, const Arguments&) {
+std::string InMetres(const clsTerrain& terrain) {
+    const TerrainMetres metres = MetresOf(terrain);
+    return "lowest=" + PlainText(metres.lowest) + "\nhighest=" + PlainText(metres.highest) +
+           "\nmean=" + PlainText(metres.mean) + "\nside=" + PlainText(metres.side) + "\n";
+}
+
+void Info(Batch& batch, const Arguments& given) {
+    const Document& document = batch.session.document;
     clsTerrain& terrain = batch.session.document.CurrentTerrain;
     terrain.Range();
     std::ostringstream lines;
-    lines << "CurrentFile=" << batch.session.document.CurrentFile << "\n"
-          << "TerrainEmpty=" << Flag(batch.session.document.TerrainEmpty) << "\n"
+    lines << "CurrentFile=" << OnOneLine(document.CurrentFile) << "\n"
+          << "TerrainEmpty=" << Flag(document.TerrainEmpty) << "\n"
           << "Size=" << terrain.Size() << "\n"
           << "XPoints=" << terrain.XPoints() << "\n"
           << "ScaleT=" << ShortestText(terrain.ScaleT()) << "\n"
@@ -40,22 +46,9 @@ void Info(Batch& batch, const Arguments&) {
           << "max=" << terrain.max() << "\n"
           << "FixHeight=" << Flag(terrain.FixHeight()) << "\n"
           << "objects=0\n";
-    batch.Print(lines.str());
+    batch.Print(lines.str() + (given.Get<bool>("metres") ? InMetres(terrain) : ""));
 }
 
-/// A property of the terrain by its name.
-struct Property {
-    std::string_view name;
-    KeyType (*type)();
-    void (*write)(clsTerrain&, const Value&);
-};
-
-KeyType SixteenBits() {
-    return WholeNumber(INT16_MIN, INT16_MAX);
-}
-KeyType ZeroOrOne() {
-    return WholeNumber(0, 1);
-}
 float Single(const Value& value) {
     return static_cast<float>(std::get<double>(value));
 }
@@ -63,52 +56,54 @@ int Whole(const Value& value) {
     return std::get<int>(value);
 }
 
-constexpr std::array properties = {
-    Property{"ScaleT", Number, [](clsTerrain& t, const Value& v) { t.ScaleT(Single(v)); }},
-    Property{"BaseHeight", SixteenBits,
-             [](clsTerrain& t, const Value& v) { t.BaseHeight(Whole(v)); }},
-    Property{"HeightScale", SixteenBits,
-             [](clsTerrain& t, const Value& v) { t.HeightScale(Whole(v)); }},
-    Property{"MinTU", SixteenBits, [](clsTerrain& t, const Value& v) { t.MinTU(Whole(v)); }},
-    Property{"MaxTU", SixteenBits, [](clsTerrain& t, const Value& v) { t.MaxTU(Whole(v)); }},
-    Property{"CRAD", Number, [](clsTerrain& t, const Value& v) { t.CRAD(Single(v)); }},
-    Property{"CRVM", ZeroOrOne, [](clsTerrain& t, const Value& v) { t.CRVM(Whole(v)); }},
-    Property{"FixHeight", ZeroOrOne,
-             [](clsTerrain& t, const Value& v) { t.FixHeight(Whole(v) == 1); }},
-};
-
-std::vector<Key> PropertyKeys() {
-    std::vector<Key> keys;
-    keys.reserve(properties.size());
-    for (const Property& property : properties)
-        keys.push_back(Key{std::string(property.name), property.type()}.Repeats());
-    return keys;
+const std::vector<Deed<clsTerrain>>& Properties() {
+    const KeyType sixteenBits = WholeNumber(INT16_MIN, INT16_MAX);
+    const KeyType zeroOrOne = WholeNumber(0, 1);
+    static const std::vector<Deed<clsTerrain>> properties = {
+        {{"ScaleT", Number()}, [](auto& terrain, auto& v) { terrain.ScaleT(Single(v)); }},
+        {{"BaseHeight", sixteenBits}, [](auto& terrain, auto& v) { terrain.BaseHeight(Whole(v)); }},
+        {{"HeightScale", sixteenBits},
+         [](auto& terrain, auto& v) { terrain.HeightScale(Whole(v)); }},
+        {{"MinTU", sixteenBits}, [](auto& terrain, auto& v) { terrain.MinTU(Whole(v)); }},
+        {{"MaxTU", sixteenBits}, [](auto& terrain, auto& v) { terrain.MaxTU(Whole(v)); }},
+        {{"CRAD", Number()}, [](auto& terrain, auto& v) { terrain.CRAD(Single(v)); }},
+        {{"CRVM", zeroOrOne}, [](auto& terrain, auto& v) { terrain.CRVM(Whole(v)); }},
+        {{"FixHeight", zeroOrOne},
+         [](auto& terrain, auto& v) { terrain.FixHeight(Whole(v) == 1); }},
+    };
+    return properties;
 }
 
 void Set(Batch& batch, const Arguments& given) {
-    TerrainGuard guard(batch.session.document.CurrentTerrain);
-    for (const Argument& argument : given.InOrder())
-        for (const Property& property : properties)
-            if (argument.key == property.name)
-                property.write(batch.session.document.CurrentTerrain, argument.value);
-    guard.Commit();
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Properties");
+    DoInOrder(Properties(), document.CurrentTerrain, given);
+    change.Commit();
 }
 
 void Flat(Batch& batch, const Arguments& given) {
-    batch.session.document.CurrentTerrain.Fill(given.Get<int>("z"));
-    batch.session.document.TerrainEmpty = false;
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Flat");
+    document.CurrentTerrain.Fill(given.Get<int>("z"));
+    document.TerrainEmpty = false;
+    change.Commit();
 }
 
 void SetOnePoint(Batch& batch, const Arguments& given) {
-    batch.session.document.CurrentTerrain.SetPoint(given.Get<int>("x"), given.Get<int>("y"),
-                                                   given.Get<int>("z"));
-    batch.session.document.TerrainEmpty = false;
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Point");
+    document.CurrentTerrain.SetPoint(given.Get<int>("x"), given.Get<int>("y"), given.Get<int>("z"));
+    document.TerrainEmpty = false;
+    change.Commit();
 }
 
 void ShiftOnePoint(Batch& batch, const Arguments& given) {
-    batch.session.document.CurrentTerrain.IncrPoint(given.Get<int>("x"), given.Get<int>("y"),
-                                                    given.Get<int>("d"));
-    batch.session.document.TerrainEmpty = false;
+    Document& document = batch.session.document;
+    HeightsChange change(document, "Shift");
+    document.CurrentTerrain.IncrPoint(given.Get<int>("x"), given.Get<int>("y"),
+                                      given.Get<int>("d"));
+    document.TerrainEmpty = false;
+    change.Commit();
 }
 
 void PrintRange(Batch& batch, const Arguments&) {
@@ -116,7 +111,7 @@ void PrintRange(Batch& batch, const Arguments&) {
 }
 
 void Scale(Batch& batch, const Arguments&) {
-    ScaleTerrainStep(batch.session.document.CurrentTerrain, batch.host);
+    ScaleHeights(batch.session.document, batch.host);
 }
 
 }  // namespace
@@ -131,8 +126,9 @@ std::vector<Command> TerrainCommandTable() {
          "a flat, empty terrain with the window -10 to 30",
          {Key{"points", WholeNumber(2, 2049)}.Default("257")},
          New},
-        {"info", "prints the terrain's properties", {}, Info},
-        {"set", "the terrain's properties, written in the order given", PropertyKeys(), Set, true},
+        {"info", "prints the terrain's properties", {Key{"metres", YesNo()}.Default("no")}, Info},
+        {"set", "the terrain's properties, written in the order given", KeysOf(Properties()), Set,
+         true},
         {"flat", "gives every point one height", {z}, Flat},
         {"point", "gives one point a height", {x, y, z}, SetOnePoint},
         {"shift", "adds to the height of one point", {x, y, d}, ShiftOnePoint},

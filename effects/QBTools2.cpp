@@ -13,6 +13,9 @@ namespace {
 
 constexpr std::size_t mostBytes = std::size_t{mostElevatorSets} * elevatorRecordLength;
 
+/// The name of set 0.
+constexpr auto straightLine = "nothing";
+
 /// Where record `index` (from 1) begins.
 std::size_t OffsetOf(int index) {
     return static_cast<std::size_t>(index - 1) * elevatorRecordLength;
@@ -38,7 +41,7 @@ void LoadStraightLine(ElevatorGrid& grid) {
 std::string ReadElevatorSet(Elevator& elevator, std::span<const std::byte> file, int index) {
     if (index == 0) {
         LoadStraightLine(elevator.grid);
-        return "nothing";
+        return straightLine;
     }
     elevator.grid.Clear();
     if (index < 0 || static_cast<std::size_t>(index) * elevatorRecordLength > file.size())
@@ -116,6 +119,14 @@ ElevatorList OpenElevator(Elevator& elevator) {
     ReadElevatorSet(elevator, file, elevator.ElevatorSetIndex);
     elevator.grid.Arm(false);
     return list;
+}
+
+std::vector<std::string> ElevatorSetNames(const Elevator& elevator) {
+    const Bytes file = ReadSets(elevator);
+    std::vector<std::string> names = {straightLine};
+    for (std::size_t at = 0; at + elevatorRecordLength <= file.size(); at += elevatorRecordLength)
+        names.emplace_back(reinterpret_cast<const char*>(file.data() + at), elevatorNameLength);
+    return names;
 }
 
 void ChooseElevatorSet(Elevator& elevator, int index) {

@@ -43,6 +43,10 @@ struct ElevatorList {
 /// what is there, `trouble` says so, and a set that cannot be had becomes set 0.
 ElevatorList OpenElevator(Elevator& elevator);
 
+/// The names of the sets 0, 1, 2, ... that are there, blanks included. Throws Fault for a file that
+/// cannot be read.
+std::vector<std::string> ElevatorSetNames(const Elevator& elevator);
+
 /// Loads a set and makes it the chosen one (`List1`). Throws Fault for one that is not there.
 void ChooseElevatorSet(Elevator& elevator, int index);
 

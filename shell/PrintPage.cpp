@@ -211,12 +211,12 @@ void PrintPage(QPagedPaintDevice& device, CopyAs copyAs, const Document& documen
 
 QImage PagePicture(const Document& document, const QImage& picture, const PrintSettings& settings,
                    const QPageLayout& paper, QSize room) {
-    const QSizeF size = PaperOf(paper);
-    QImage page(size.scaled(room, Qt::KeepAspectRatio).toSize(), QImage::Format_RGB32);
+    const QSizeF whole = PaperOf(paper);
+    QImage page(whole.scaled(room, Qt::KeepAspectRatio).toSize(), QImage::Format_RGB32);
     page.fill(Qt::white);
     QPainter painter(&page);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    const Sheet sheet{size, {}, {size.width() / page.width(), size.height() / page.height()}};
+    const Sheet sheet{whole, {}, {whole.width() / page.width(), whole.height() / page.height()}};
     PaintCopy(painter, sheet, document, picture, settings, true);
     return page;
 }

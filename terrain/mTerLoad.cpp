@@ -16,7 +16,7 @@ const Question& RefineQuestion() {
     static const Question question{
         "Terrain doesn't use the maximum extension of 65538 steps. Shall it be refined?\n\r"
         "(Attention: Other height value could arise than in the original file!)",
-        "load terrain ....", Buttons::YesNo};
+        "load terrain ....", Buttons::YesNo, QuestionId::Refine};
     return question;
 }
 

@@ -30,8 +30,8 @@ void DocumentCommands::ShowTerrain(double zoomFactor) {
 }
 
 bool DocumentCommands::AskToClear() {
-    return workplace_.TheHost().Ask({"Terrain clear ?  Are you sure ?", "Terrain clear"}) ==
-           Answer::Yes;
+    return workplace_.TheHost().Ask({"Terrain clear ?  Are you sure ?", "Terrain clear",
+                                     Buttons::YesNo, QuestionId::Clear}) == Answer::Yes;
 }
 
 void DocumentCommands::Neu() {
@@ -172,8 +172,9 @@ bool DocumentCommands::MayExit() {
     const Session& session = workplace_.TheSession();
     if (session.document.TerrainEmpty || session.document.TerrainSaved)
         return true;
-    const Answer answer = workplace_.TheHost().Ask(
-        {"The terrain is not saved!  Do you want to save?", "EXIT", Buttons::YesNoCancel});
+    const Answer answer =
+        workplace_.TheHost().Ask({"The terrain is not saved!  Do you want to save?", "EXIT",
+                                  Buttons::YesNoCancel, QuestionId::SaveBeforeExit});
     if (answer == Answer::Yes)
         return FileSave(0);
     return answer == Answer::No;

@@ -1,41 +1,36 @@
-// Runs the batch program once for each folder under cases/ and compares what can be seen from
-// outside. The program runs in a folder of its own that holds a copy of the case's `files`, and
-// `home`, a program folder with one Perlin set. The other files of a case, all optional:
+// Runs the batch program as each folder under cases/ says and compares what can be seen from
+// outside. The program runs in a folder of its own that begins as a copy of the case's `files` and
+// holds `home`, a program folder with one Perlin set. The other files of a case, all optional:
 //
-//   arguments       the command line, one argument a line
-//   stdin           standard input
-//   status          the expected exit status (0)
-//   stdout, stderr  the expected output, in full (empty)
-//   stderr-pattern  a shell pattern in place of stderr
-//   absent          names that must not exist afterwards, one a line
-//   kept            names out of `files` that must be untouched
-//   same            pairs of names that must have the same content
-//   limit           the largest size of a file that the program may write, in bytes
-//   twice           when it exists, two runs must leave the same files
+//   arguments        the command line, one argument a line, \n in it being a line break; an empty
+//                    line begins another run in the same folder
+//   stdin            standard input of each run
+//   status           the expected exit statuses, a line a run (0)
+//   stdout, stderr   what all runs are to print, in full (nothing)
+//   stdout-pattern   a shell pattern in place of stdout; likewise stderr-pattern
+//   expected/        files that must be there afterwards, with that content
+//   expected.sha256  the same as the checksums that sha256sum prints
+//   absent           names that must not exist afterwards, one a line
+//   kept             names out of `files` that must be untouched
+//   same, differ     names in lines, whose files must have the same content, or any two another
+//   limit            the largest size of a file that the program may write, in bytes
+//   terminal         when it exists, standard error is a terminal
+//   twice            when it exists, doing it all again must leave the same files
 
-#include <fcntl.h>
 #include <fnmatch.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
+#include <QCryptographicHash>
 #include <algorithm>
-#include <filesystem>
-#include <map>
+#include <iterator>
 #include <sstream>
 
-#include "tests/support/NoiseSet.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/batch/Program.h"
 
 namespace quillbrand {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string TextOrNothing(const fs::path& path) {
-    return fs::exists(path) ? TextOf(path) : "";
-}
 
 std::vector<std::string> Lines(const fs::path& path) {
     std::vector<std::string> lines;
@@ -45,75 +40,96 @@ std::vector<std::string> Lines(const fs::path& path) {
     return lines;
 }
 
-void Redirect(int descriptor, const fs::path& path, int flags) {
-    if (dup2(open(path.c_str(), flags, 0600), descriptor) < 0)
-        _exit(126);
+std::vector<std::string> Words(const std::string& line) {
+    std::istringstream text(line);
+    return {std::istream_iterator<std::string>(text), {}};
 }
 
-/// Becomes the program; never returns.
-[[noreturn]] void Execute(const fs::path& folder, const fs::path& outputs, rlim_t limit,
-                          std::vector<std::string> arguments) {
-    std::vector<char*> argv;
-    argv.reserve(arguments.size() + 1);
-    for (std::string& argument : arguments)
-        argv.push_back(argument.data());
-    argv.push_back(nullptr);
-    Redirect(STDIN_FILENO, outputs / "stdin", O_RDONLY);
-    Redirect(STDOUT_FILENO, outputs / "stdout", O_WRONLY | O_CREAT);
-    Redirect(STDERR_FILENO, outputs / "stderr", O_WRONLY | O_CREAT);
-    const struct rlimit sizes { limit, limit };
-    // There is one thread. NOLINTNEXTLINE(concurrency-mt-unsafe)
-    setenv("QUILLBRAND_HOME", "home", 1);
-    if (setrlimit(RLIMIT_FSIZE, &sizes) == 0 && chdir(folder.c_str()) == 0)
-        execv(QB_BATCH_PROGRAM, argv.data());
-    _exit(127);
+std::string WithLineBreaks(std::string argument) {
+    for (std::size_t at = 0; (at = argument.find("\\n", at)) != std::string::npos;)
+        argument.replace(at, 2, "\n");
+    return argument;
 }
 
-/// One run of a case, with what it left behind.
-class CaseRun {
-  public:
-    explicit CaseRun(const fs::path& description) {
-        if (fs::exists(description / "files"))
-            fs::copy(description / "files", folder_.Path(), fs::copy_options::recursive);
-        WriteNoiseSet(folder_ / "home/PS", "Dots", 140);
-        WriteText(outputs_ / "stdin", TextOrNothing(description / "stdin"));
-        const std::string limit = TextOrNothing(description / "limit");
-        std::vector<std::string> arguments = Lines(description / "arguments");
-        arguments.insert(arguments.begin(), QB_BATCH_PROGRAM);
-        const pid_t child = fork();
-        if (child == 0)
-            Execute(folder_.Path(), outputs_.Path(),
-                    limit.empty() ? RLIM_INFINITY : std::stoul(limit), std::move(arguments));
-        int status = 0;
-        waitpid(child, &status, 0);
-        status_ = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+/// The arguments of each run.
+std::vector<std::vector<std::string>> Runs(const fs::path& description) {
+    std::vector<std::vector<std::string>> runs(1);
+    for (const std::string& line : Lines(description / "arguments")) {
+        if (line.empty())
+            runs.emplace_back();
+        else
+            runs.back().push_back(WithLineBreaks(line));
     }
+    return runs;
+}
 
-    int Status() const { return status_; }
-    std::string Output(const std::string& name) const { return TextOf(outputs_ / name); }
-    fs::path operator/(const std::string& name) const { return folder_ / name; }
+std::string Sha256(const Bytes& content) {
+    return QCryptographicHash::hash(QByteArrayView(reinterpret_cast<const char*>(content.data()),
+                                                   static_cast<qsizetype>(content.size())),
+                                    QCryptographicHash::Sha256)
+        .toHex()
+        .toStdString();
+}
 
-    /// Every file by its name, with its content.
-    std::map<std::string, Bytes> Files() const {
-        std::map<std::string, Bytes> files;
-        for (const auto& entry : fs::recursive_directory_iterator(folder_.Path()))
-            if (entry.is_regular_file())
-                files[entry.path().lexically_relative(folder_.Path())] = Contents(entry.path());
-        return files;
+void RunAll(Program& program, const fs::path& description) {
+    const RunSetting setting{.input = TextOrNothing(description / "stdin"),
+                             .mostBytes = TextOrNothing(description / "limit"),
+                             .errorsToTerminal = fs::exists(description / "terminal")};
+    const std::vector<std::string> statuses = Lines(description / "status");
+    std::size_t number = 0;
+    for (const auto& arguments : Runs(description)) {
+        const int status = program.Run(arguments, setting);
+        const int expected = number < statuses.size() ? std::stoi(statuses[number]) : 0;
+        ++number;
+        EXPECT_EQ(status, expected) << "of run " << number;
     }
+}
 
-  private:
-    TemporaryFolder folder_;
-    TemporaryFolder outputs_;
-    int status_ = -1;
-};
-
-void ExpectErrors(const std::string& errors, const fs::path& description) {
-    const std::string pattern = TextOrNothing(description / "stderr-pattern");
+/// Compares with the file `name` of the case, or with its pattern.
+void ExpectText(const std::string& text, const fs::path& description, const std::string& name) {
+    const std::string pattern = TextOrNothing(description / (name + "-pattern"));
     if (pattern.empty()) {
-        EXPECT_EQ(errors, TextOrNothing(description / "stderr"));
+        EXPECT_EQ(text, TextOrNothing(description / name));
     } else {
-        EXPECT_EQ(fnmatch(pattern.c_str(), errors.c_str(), 0), 0) << errors;
+        EXPECT_EQ(fnmatch(pattern.c_str(), text.c_str(), 0), 0) << name << ": " << text;
+    }
+}
+
+/// What the expected/ of a case holds, by name.
+std::map<std::string, std::string> ExpectedFiles(const fs::path& description) {
+    std::map<std::string, std::string> files;
+    if (fs::exists(description / "expected"))
+        for (const auto& entry : fs::directory_iterator(description / "expected"))
+            files[entry.path().filename()] = TextOf(entry.path());
+    return files;
+}
+
+void ExpectContents(const Program& program, const fs::path& description) {
+    for (const auto& [name, content] : ExpectedFiles(description))
+        EXPECT_EQ(TextOf(program / name), content) << name;
+    for (const std::string& line : Lines(description / "expected.sha256")) {
+        const auto words = Words(line);
+        EXPECT_EQ(Sha256(Contents(program / words.at(1))), words.at(0)) << line;
+    }
+    for (const std::string& name : Lines(description / "absent"))
+        EXPECT_FALSE(fs::exists(program / name)) << name;
+    for (const std::string& name : Lines(description / "kept"))
+        EXPECT_EQ(TextOf(program / name), TextOf(description / "files" / name)) << name;
+}
+
+void ExpectLikeness(const Program& program, const fs::path& description) {
+    for (const std::string& line : Lines(description / "same")) {
+        std::map<std::string, std::string> contents;
+        for (const std::string& name : Words(line))
+            contents.try_emplace(TextOf(program / name), name);
+        EXPECT_EQ(contents.size(), 1u) << line;
+    }
+    for (const std::string& line : Lines(description / "differ")) {
+        std::map<std::string, std::string> contents;
+        for (const std::string& name : Words(line)) {
+            const auto [other, isNew] = contents.try_emplace(TextOf(program / name), name);
+            EXPECT_TRUE(isNew) << name << " is " << other->second;
+        }
     }
 }
 
@@ -121,25 +137,20 @@ class Cases : public testing::TestWithParam<fs::path> {};
 
 TEST_P(Cases, DoWhatTheirFilesSay) {
     const fs::path& description = GetParam();
-    const CaseRun run(description);
-    const std::string status = TextOrNothing(description / "status");
-    EXPECT_EQ(run.Status(), status.empty() ? 0 : std::stoi(status));
-    EXPECT_EQ(run.Output("stdout"), TextOrNothing(description / "stdout"));
-    ExpectErrors(run.Output("stderr"), description);
+    Program program(description / "files");
+    RunAll(program, description);
+    ExpectText(program.Output(), description, "stdout");
+    ExpectText(program.Errors(), description, "stderr");
+    ExpectContents(program, description);
+    ExpectLikeness(program, description);
 
-    for (const std::string& name : Lines(description / "absent"))
-        EXPECT_FALSE(fs::exists(run / name)) << name;
-    for (const std::string& name : Lines(description / "kept"))
-        EXPECT_EQ(Contents(run / name), Contents(description / "files" / name)) << name;
-    for (const std::string& pair : Lines(description / "same")) {
-        const auto blank = pair.find(' ');
-        EXPECT_EQ(Contents(run / pair.substr(0, blank)), Contents(run / pair.substr(blank + 1)));
-    }
-    const auto files = run.Files();
+    const auto files = program.Files();
     for (const auto& [name, content] : files)
         EXPECT_FALSE(fs::path(name).filename().string().starts_with(".")) << name << " is left";
     if (fs::exists(description / "twice")) {
-        EXPECT_EQ(CaseRun(description).Files(), files);
+        Program again(description / "files");
+        RunAll(again, description);
+        EXPECT_EQ(again.Files(), files);
     }
 }
 

@@ -323,7 +323,7 @@ void GlobalPanel::txtTerSizeMeters_LostFocus(const QString& oldSizeText) {
         const bool grows =
             isNew && workplace_.TheHost().Ask(
                          {"The size was changed. Shall the Terrain height also be adjusted?",
-                          changeValue}) == Answer::Yes;
+                          changeValue, Buttons::YesNo, QuestionId::ScaleHeights}) == Answer::Yes;
         SetSide(terrain, texts, grows ? KeepHeights::InUnits : KeepHeights::InMetres);
     });
 }
