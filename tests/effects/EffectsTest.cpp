@@ -4,20 +4,24 @@
 #include "effects/QBFilter.h"
 #include "tests/support/Grids.h"
 #include "tests/support/RecordingHost.h"
+#include "tests/support/SlowTwins.h"
 
 namespace quillbrand {
 namespace {
 
+using QBFilter::Area;
+
 /// Runs effects as the panel does, with an elevator and a river bed of their own.
 class ApplyEffect : public ::testing::Test {
   protected:
-    void Apply(int code, clsTerrain& terrain, float strength, const QBFilter::Area& area) {
+    void Apply(int code, clsTerrain& terrain, float strength, const Area& area) {
         QBFilter::ApplyEffect(code, terrain, strength, area,
-                              {elevator_, riverBed_, [] { return std::nullopt; }}, host_);
+                              {elevator_, riverBed_, [this] { return drops_; }}, host_);
         EXPECT_FALSE(host_.isBusy);
     }
 
     RecordingHost host_;
+    std::optional<ErosionSettings> drops_;  ///< the answer of the dialog
     Elevator elevator_;
     QBFilter::RiverBed riverBed_;
 };
@@ -48,7 +52,7 @@ TEST_F(ApplyEffect, TakesTheWholeGridAndAllHeightsForTheShiftsWhateverTheArea) {
     struct Case {
         int code;
         float strength;
-        void (*body)(clsTerrain&, float&, const QBFilter::Area&, Host&);
+        void (*body)(clsTerrain&, float&, const Area&, Host&);
         float bodyStrength;
     };
     for (auto [code, strength, body, bodyStrength] :
@@ -71,10 +75,27 @@ TEST_F(ApplyEffect, SmoothsAfterTheElevatorEvenWhenThatIsNotArmed) {
     EXPECT_LT(terrain.GetPoint(1, 1), 1500);
 }
 
-TEST_F(ApplyEffect, ErodesAllHeightsByDropsAndNamesTheRiversPicture) {
-    clsTerrain terrain = GridFrom("1 2 / 3 4");
-    Apply(12, terrain, 0, {.extent = 2, .zMin = 0, .zMax = 0});
+TEST_F(ApplyEffect, ErodesAllHeightsByDropsOrOnlyScalesWhenTheUserCancels) {
+    const Area none{.extent = 40, .zMin = 0, .zMax = 0};
+    clsTerrain terrain = RandomGrid(40, -20000, 30000, host_.chance);
+    clsTerrain expected = terrain;
+    expected.ScaleTerrain();
+    Apply(12, terrain, 3, none);
+    EXPECT_TRUE(SameGrid(terrain, expected));
     EXPECT_EQ(host_.statuses.back(), "Terrain erode ...");
+    EXPECT_EQ(host_.progress.back(), 0);
+
+    drops_ = ErosionSettings{1000, 1, 4, 3};
+    RandomSource chance = host_.chance;
+    SlowTwins::FilterNaturalErosion(expected, {.extent = 40}, *drops_, chance);
+    EXPECT_FALSE(SameGrid(terrain, expected));
+    Apply(12, terrain, 3, none);
+    EXPECT_TRUE(SameGrid(terrain, expected));
+}
+
+TEST_F(ApplyEffect, NamesTheRiversPicture) {
+    clsTerrain terrain = GridFrom("1 2 / 3 4");
+    riverBed_.ErodePictureName = "other.flt";
     EXPECT_THROW(Apply(5, terrain, 0, {.extent = 2}), Fault);
     EXPECT_EQ(riverBed_.ErodePictureName, "erode0.flt");
 }

@@ -134,20 +134,6 @@ TEST(NaturalErosion, AgreesWithTheSlowTwinOnRandomHillsAndLimits) {
     }
 }
 
-TEST(NaturalErosion, OnlyScalesWhenTheUserCancels) {
-    RecordingHost host;
-    clsTerrain terrain = GridFrom("1 2 3 / 4 5 6 / 7 8 90");
-    clsTerrain scaled = terrain;
-    scaled.ScaleTerrain();
-    float strength = 3;
-    QBFilter::FilterNaturalErosion(
-        terrain, strength, {}, [] { return std::nullopt; }, host);
-    EXPECT_EQ(AllCells(terrain), AllCells(scaled));
-    EXPECT_EQ(strength, 0.0f);
-    EXPECT_EQ(host.statuses, (std::vector<std::string>{"Scale Terrain...", "Terrain erode ..."}));
-    EXPECT_EQ(host.progress.back(), 0);
-}
-
 TEST(ErosionSettings, SurviveAFileAndFallBackToItsOwnDefaults) {
     TemporaryFolder folder;
     const ErosionSettings settings{12300, 7, 10, 8};

@@ -100,18 +100,6 @@ TEST(Shifts, SinusSpansHalfTheRangeAndStartsSteep) {
     EXPECT_NEAR(terrain.GetPoint(2, 0), (0.7513 - 0.5) * 32765, 3) << "the sine of 0.85";
 }
 
-TEST(Shifts, GammaWritesItsLastColumnAndRowFromACurveOfNothing) {
-    RecordingHost host;
-    clsTerrain terrain = GridFrom("-32767 -20000 900 / 20000 32767 800 / 70 60 50");
-    float strength = 1;
-    QBFilter::FilterGammaShift(terrain, strength, {.extent = 2}, host);
-    EXPECT_EQ(strength, 0.25f);
-    EXPECT_EQ(terrain.GetPoint(2, 0), 0);
-    EXPECT_EQ(terrain.GetPoint(0, 2), 0);
-    EXPECT_EQ(terrain.GetPoint(0, 0), -terrain.GetPoint(1, 1));
-    EXPECT_GT(terrain.GetPoint(1, 1), 31000);
-}
-
 TEST(Invert, NegatesTheTerrainAndOneRowOfItsMarginWhateverTheArea) {
     for (int turn = 0; turn < 40; ++turn) {
         Trial trial(turn);
@@ -180,18 +168,6 @@ TEST(Smooth, AgreesWithTheSlowTwinOnRandomGridsAreasAndLimits) {
         SlowTwins::FilterSmooth(slow, trial.area);
         ASSERT_TRUE(SameGrid(trial.terrain, slow)) << "turn " << turn;
     }
-}
-
-TEST(Smooth, SpreadsASpikeAlongDiagonalsOnly) {
-    clsTerrain terrain;
-    terrain.Init(11);
-    terrain.SetPoint(5, 5, 1000);
-    Smooth(terrain, 3, {.extent = 6, .startX = 2, .startY = 2});
-    EXPECT_GT(terrain.GetPoint(5, 5), 0);
-    EXPECT_LT(terrain.GetPoint(5, 5), 200);
-    EXPECT_GT(terrain.GetPoint(6, 6), 0);
-    EXPECT_EQ(terrain.GetPoint(6, 5), 0);
-    EXPECT_EQ(terrain.GetPoint(5, 6), 0);
 }
 
 TEST(Smooth, LeavesPointsAtTheLimitsAloneButHearsThem) {

@@ -34,14 +34,13 @@ TEST(OverlayRelief, MeetsTheOldHeightsByTheMode) {
 }
 
 TEST(OverlayRelief, FaultsAtADivisionByZeroAndBeyond32Bits) {
-    EXPECT_EQ(Overlaid(ModifyModes::Division, 100, "5 5 / 5 5", "-2 0 / 1 4"), "-5 5 / 2 1");
-    EXPECT_THROW(Overlaid(ModifyModes::Division, 100, "5 5 / 5 5", "0 0 / 0 -1"), Fault);
-    EXPECT_THROW(Overlaid(ModifyModes::Division, 1, "5 5 / 5 0", "0 0 / 0 -100"), Fault);
-    EXPECT_EQ(Overlaid(ModifyModes::Add, 100, "2147483640 0 / 0 0", "7 0 / 0 0"),
-              "2147483647 0 / 0 0");
-    EXPECT_THROW(Overlaid(ModifyModes::Add, 100, "2147483640 0 / 0 0", "8 0 / 0 0"), Fault);
-    EXPECT_THROW(Overlaid(ModifyModes::Subtraction, 100, "-2147483640 0 / 0 0", "9 0 / 0 0"),
-                 Fault);
+    using namespace ModifyModes;
+    EXPECT_EQ(Overlaid(Division, 100, "5 5 / 5 5", "-2 0 / 1 4"), "-5 5 / 2 1");
+    EXPECT_THROW(Overlaid(Division, 100, "5 5 / 5 5", "0 0 / 0 -1"), Fault);
+    EXPECT_THROW(Overlaid(Division, 1, "5 5 / 5 0", "0 0 / 0 -100"), Fault);
+    EXPECT_EQ(Overlaid(Add, 100, "2147483640 0 / 0 0", "7 0 / 0 0"), "2147483647 0 / 0 0");
+    EXPECT_THROW(Overlaid(Add, 100, "2147483640 0 / 0 0", "8 0 / 0 0"), Fault);
+    EXPECT_THROW(Overlaid(Subtraction, 100, "-2147483640 0 / 0 0", "9 0 / 0 0"), Fault);
 }
 
 TEST(OverlayRelief, ReachesOneRowOfTheMarginAndNothingBeyondTheTerrain) {

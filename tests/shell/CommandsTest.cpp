@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <tuple>
 
-#include "base/Fault.h"
 #include "shell/EffectCommands.h"
 #include "shell/GeneratorCommands.h"
 #include "shell/TerrainCommands.h"
+#include "tests/support/Faults.h"
 #include "tests/support/Grids.h"
 #include "tests/support/NoiseSet.h"
 #include "tests/support/RecordingHost.h"
@@ -18,149 +19,150 @@ class Commands : public testing::Test {
   protected:
     Commands() {
         WriteNoiseSet(folder / "PS", "Dots", 140);
-        session.tools.PerlinSets = ScanPerlinSets(folder / "PS");
-        session.document.CurrentTerrain = RandomGrid(129, -1000, 1000, host.chance);
-        session.document.TerrainEmpty = false;
-        session.document.CurrentFile = "hill.ter";
+        tools.PerlinSets = ScanPerlinSets(folder / "PS");
+        session.settings.ProgramFolder = folder.Path();
+        document.CurrentTerrain = RandomGrid(129, -1000, 1000, host.chance);
+        document.TerrainEmpty = false;
+        document.CurrentFile = "hill.ter";
+        document.history.Mode(HistoryMode::Steps);
     }
 
-    /// Everything that a command could leave changed.
+    void Start(const EffectRequest& request) {
+        StartEffect(document, tools, session.settings, request, host);
+    }
+    void Produce(const GeneratorSettings& settings) {
+        ProduceTerrain(document, tools, 1, 128, settings, host);
+    }
+    bool Open(const std::string& name) {
+        return OpenTerrain(document, tools.LoadMemory, folder / name, host);
+    }
+
+    /// Everything that a command could leave changed, but for the steps that it adds.
     auto State() const {
-        return std::tuple(AllCells(session.document.CurrentTerrain),
-                          HeaderText(session.document.CurrentTerrain), session.document.CurrentFile,
-                          session.document.TerrainEmpty, session.document.TerrainSaved,
-                          session.tools.ModifyMode, session.tools.RandomSeedValue);
+        return std::tuple(AllCells(document.CurrentTerrain), HeaderText(document.CurrentTerrain),
+                          document.CurrentFile, document.TerrainEmpty, tools.ModifyMode,
+                          tools.RandomSeedValue);
     }
 
-    template <typename Work>
-    void ExpectFaultChangesNothing(Work work) {
+    void ExpectStep(const std::string& name, const std::function<void()>& command) {
         const auto before = State();
-        EXPECT_THROW(work(), Fault);
-        EXPECT_TRUE(State() == before);
+        const auto steps = document.history.Entries().size();
+        command();
+        const auto after = State();
+        ASSERT_EQ(document.history.Entries().size(), steps + 1) << name;
+        EXPECT_EQ(document.history.NameOfUndo(), name);
+        document.Undo();
+        EXPECT_TRUE(State() == before) << name;
+        document.Redo();
+        EXPECT_TRUE(State() == after) << name;
     }
 
     TemporaryFolder folder;
     Session session;
+    Document& document = session.document;
+    Tools& tools = session.tools;
     RecordingHost host;
 };
 
-TEST_F(Commands, ThatFailChangeNothing) {
-    const auto nowhere = folder / "nowhere/a.ter";
+TEST_F(Commands, AreStepsWhoseResultsComeBackFromFileAndBackup) {
+    Start({.code = 1, .strength = 5, .zMin = 5000, .zMax = 6000});
+    EXPECT_FALSE(document.history.CanUndo()) << "no height lies between these limits";
+    ExpectStep("Smooth", [&] { Start({.code = 1, .strength = 5}); });
+    ExpectStep("Save", [&] { SaveTerrain(document, folder / "a.ter", true, host); });
+    EXPECT_TRUE(document.TerrainSaved);
+    EXPECT_EQ(document.CurrentFile, (folder / "a.ter").string());
+    const std::string saved = TextOf(document.CurrentTerrain);
+    BackupTerrain(session, BackupPath(session.settings));
+
+    ExpectStep("New", [&] { NewTerrain(document); });
+    EXPECT_TRUE(document.TerrainEmpty);
+    EXPECT_EQ(document.CurrentFile, (folder / "a.ter").string());
+    ExpectStep("Restore Terrain", [&] { RestoreTerrain(document, BackupPath(session.settings)); });
+    EXPECT_EQ(TextOf(document.CurrentTerrain), saved);
+    EXPECT_GT(document.CurrentTerrain.max(), 30000) << "the extremes are measured";
+
+    ExpectStep("Clear Terrain", [&] { ClearTerrain(document, 129); });
+    EXPECT_EQ(document.CurrentFile, "noname");
+    EXPECT_EQ(document.CurrentTerrain.MinTU(), -10);
+    EXPECT_EQ(document.CurrentTerrain.MaxTU(), 30);
+    ExpectStep("Open", [&] { EXPECT_TRUE(Open("a.ter")); });
+    EXPECT_EQ(TextOf(document.CurrentTerrain), saved);
+    EXPECT_FALSE(document.TerrainEmpty);
+    ExpectStep("Produce terrain", [&] { Produce({.seed = "1"}); });
+    const auto noise = [&] { Start({.code = 2, .strength = 1}); };
+    ExpectStep("Noise", noise);
+    EXPECT_FALSE(host.isBusy);
+    ExpectStep("Save as Perlin set", [&] { SaveAsPerlinSet(document, folder / "a", "x", host); });
+    noise();
+    ExpectStep("Optimized", [&] { ScaleHeights(document, host); });
+    ExpectStep("Invers", [&] { Start({.code = 3, .strength = 1}); });
+}
+
+TEST_F(Commands, ThatFailChangeNothingAndAreNoSteps) {
     WriteText(folder / "short.ter", "TERRAGENTERRAIN SIZE" + std::string(90, '\1'));
-    const GeneratorSettings broken{.set = 5, .seed = {}, .clearTerrain = true};
-    ExpectFaultChangesNothing([&] { SaveTerrain(session.document, nowhere, true, host); });
-    ExpectFaultChangesNothing([&] { SaveAsPerlinSet(session.document, nowhere, "x", host); });
-    ExpectFaultChangesNothing(
-        [&] { OpenTerrain(session.document, session.tools.LoadMemory, nowhere, host); });
-    ExpectFaultChangesNothing([&] {
-        OpenTerrain(session.document, session.tools.LoadMemory, folder / "short.ter", host);
-    });
-    ExpectFaultChangesNothing([&] { RestoreTerrain(session.document, nowhere); });
-    ExpectFaultChangesNothing([&] {
-        ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 256, broken,
-                       host);
-    });
+    NewTerrain(document);
+    document.Undo();
+    const auto fail = []() -> std::optional<ErosionSettings> { throw Fault("no dialog"); };
+    const std::function<void()> commands[] = {
+        [&] { SaveTerrain(document, folder / "nowhere/a.ter", true, host); },
+        [&] { SaveAsPerlinSet(document, folder / "nowhere/a.QPS", "x", host); },
+        [&] { Open("nowhere/a.ter"); },
+        [&] { Open("short.ter"); },
+        [&] { RestoreTerrain(document, folder / "nowhere/a.qbt"); },
+        [&] { Produce({.set = 5, .seed = {}, .clearTerrain = true}); },
+        [&] { Start({.code = 5, .strength = 1}); },
+        [&] { Start({.code = 12, .strength = 1, .startErosion = fail}); }};
+    const auto before = State();
+    for (const auto& command : commands) {
+        EXPECT_NE(FaultOf(command), "no fault") << &command - commands;
+        EXPECT_TRUE(State() == before) << &command - commands;
+        EXPECT_FALSE(document.TerrainSaved) << &command - commands;
+        EXPECT_TRUE(document.history.CanRedo()) << "a step would have taken its place";
+    }
 }
 
-TEST_F(Commands, ClearForgetsFileAndWindowAndNewKeepsThem) {
-    session.document.CurrentTerrain.HeightScale(32767);
-    session.document.CurrentTerrain.BaseHeight(32767);
-    NewTerrain(session.document);
-    EXPECT_EQ(session.document.CurrentFile, "hill.ter");
-    EXPECT_EQ(session.document.CurrentTerrain.HeightScale(), 32767);
-    EXPECT_TRUE(session.document.TerrainEmpty);
-    ClearTerrain(session.document, 5);
-    EXPECT_EQ(session.document.CurrentFile, "noname");
-    EXPECT_EQ(session.document.CurrentTerrain.XPoints(), 5);
-    EXPECT_EQ(session.document.CurrentTerrain.MinTU(), -10);
-    EXPECT_EQ(session.document.CurrentTerrain.MaxTU(), 30);
-}
-
-TEST_F(Commands, SavedAndBackedUpTerrainsComeBack) {
-    const auto file = folder / "a.ter";
-    SaveTerrain(session.document, file, true, host);
-    EXPECT_TRUE(session.document.TerrainSaved);
-    EXPECT_EQ(session.document.CurrentFile, file.string());
-    const std::string saved = TextOf(session.document.CurrentTerrain);
-    BackupTerrain(session, folder / "b.qbt");
-    EXPECT_TRUE(session.BackupExists);
-
-    ClearTerrain(session.document, 5);
-    RestoreTerrain(session.document, folder / "b.qbt");
-    EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
-    EXPECT_FALSE(session.document.TerrainEmpty);
-
-    ClearTerrain(session.document, 5);
-    EXPECT_TRUE(OpenTerrain(session.document, session.tools.LoadMemory, file, host));
-    EXPECT_EQ(TextOf(session.document.CurrentTerrain), saved);
-    EXPECT_FALSE(session.document.TerrainEmpty);
+TEST_F(Commands, BackupGoesWithTheSessionThatMadeIt) {
+    const auto path = BackupPath(session.settings);
+    BackupTerrain(session, path);
+    Session other;
+    other.settings = session.settings;
+    RemoveBackup(other);
+    EXPECT_TRUE(std::filesystem::exists(path));
+    RemoveBackup(session);
+    EXPECT_FALSE(std::filesystem::exists(path));
 }
 
 TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
-    session.tools.ModifyMode = ModifyModes::Subtraction;
-    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128, {.seed = "1"},
-                   host);
-    EXPECT_EQ(session.tools.ModifyMode, ModifyModes::Subtraction);
+    tools.ModifyMode = ModifyModes::Multiplication;
+    Produce({.seed = "1"});
+    EXPECT_EQ(tools.ModifyMode, ModifyModes::Multiplication);
+    Produce({.seed = "1", .clearTerrain = true});
+    EXPECT_EQ(document.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
+    EXPECT_EQ(tools.ModifyMode, ModifyModes::Add);
 
-    session.tools.ModifyMode = ModifyModes::Multiplication;
-    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128,
-                   {.seed = "1", .clearTerrain = true}, host);
-    EXPECT_EQ(session.document.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
-    EXPECT_EQ(session.tools.ModifyMode, ModifyModes::Add);
-
-    ClearTerrain(session.document, 129);
-    ProduceTerrain(session.document, session.tools, session.settings.ResizeMode, 128, {.seed = "1"},
-                   host);
-    EXPECT_GT(session.document.CurrentTerrain.Range(), 60000);
-    EXPECT_FALSE(session.document.TerrainEmpty);
+    ClearTerrain(document, 129);
+    tools.ModifyMode = ModifyModes::highest;
+    Produce({.seed = "1"});
+    EXPECT_EQ(tools.ModifyMode, ModifyModes::Add);
+    EXPECT_GT(document.CurrentTerrain.Range(), 60000);
+    EXPECT_FALSE(document.TerrainEmpty);
 }
 
-TEST_F(Commands, GeneratorFileCarriesSeedAndModeOfTheSession) {
-    session.tools.RandomSeedValue = 4711;
-    session.tools.ModifyMode = ModifyModes::highest;
-    SaveGenerator(session.tools, folder / "a.par", {.iterations = 7, .seed = {}});
-    session.tools.RandomSeedValue = 0;
-    session.tools.ModifyMode = ModifyModes::Add;
-    EXPECT_EQ(LoadGenerator(session.tools, folder / "a.par", 0).iterations, 7);
-    EXPECT_EQ(session.tools.RandomSeedValue, 4711);
-    EXPECT_EQ(session.tools.ModifyMode, ModifyModes::highest);
+TEST_F(Commands, GeneratorFileGivesAndTakesEveryValue) {
+    const std::string text =
+        "[Generator]\nPerlin= 1\nIteration= 7\nHeight= 55\nStructure= 4\n"
+        "RNDSeed=4711\nmodify= 5\nhighres= 1\nrougness= 9\n";
+    tools.PerlinSets.rows.push_back(tools.PerlinSets.rows[0]);
+    WriteText(folder / "in.par", text);
+    GeneratorSettings loaded = LoadGenerator(tools, folder / "in.par", 0);
+    EXPECT_EQ(tools.RandomSeedValue, 4711);
+    EXPECT_EQ(tools.ModifyMode, ModifyModes::highest);
+    loaded.seed.clear();
+    SaveGenerator(tools, folder / "out.par", loaded);
+    EXPECT_EQ(TextOf(folder / "out.par"), text);
     WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\n");
-    EXPECT_EQ(LoadGenerator(session.tools, folder / "far.par", 0).seed, "1e10");
-    EXPECT_EQ(session.tools.RandomSeedValue, 2147483647);
-}
-
-TEST_F(Commands, EffectWorksBetweenItsLimitsOnly) {
-    const auto cells = AllCells(session.document.CurrentTerrain);
-    StartEffect(session.document, session.tools, session.settings,
-                {.code = 1, .strength = 5, .zMin = 5000, .zMax = 6000}, host);
-    EXPECT_EQ(AllCells(session.document.CurrentTerrain), cells);
-    StartEffect(session.document, session.tools, session.settings, {.code = 1, .strength = 5},
-                host);
-    EXPECT_NE(AllCells(session.document.CurrentTerrain), cells);
-    EXPECT_FALSE(host.isBusy);
-}
-
-TEST_F(Commands, EffectsThatFailMidwayLeaveTheHeights) {
-    session.document.CurrentTerrain.Fill(700);
-    ExpectFaultChangesNothing([&] {
-        StartEffect(session.document, session.tools, session.settings, {.code = 7, .strength = 1},
-                    host);
-    });
-    session.document.CurrentTerrain.SetPoint(3, 3, 200000);
-    session.tools.elevator.grid.Arm(true);
-    ExpectFaultChangesNothing([&] {
-        StartEffect(session.document, session.tools, session.settings,
-                    {.code = 4, .strength = 1, .zMin = 0, .zMax = 300000}, host);
-    });
-    ExpectFaultChangesNothing([&] {
-        StartEffect(session.document, session.tools, session.settings, {.code = 5, .strength = 1},
-                    host);
-    });
-    const auto fail = []() -> std::optional<ErosionSettings> { throw Fault("no dialog"); };
-    ExpectFaultChangesNothing([&] {
-        StartEffect(session.document, session.tools, session.settings,
-                    {.code = 12, .strength = 1, .startErosion = fail}, host);
-    });
+    EXPECT_EQ(LoadGenerator(tools, folder / "far.par", 0).seed, "1e10");
+    EXPECT_EQ(tools.RandomSeedValue, 2147483647);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "base/Fault.h"
+#include "base/NumberText.h"
 
 namespace quillbrand {
 namespace {
@@ -24,29 +25,22 @@ class LandscapeArea : public testing::Test {
     clsTerrain terrain;
 };
 
-TEST_F(LandscapeArea, WritesTheEndsOfTheHeightsInMetres) {
+TEST_F(LandscapeArea, TakesEndsInMetresAndGivesANewSideToTheUnitsOrToTheMetres) {
     SetLowest(terrain, "-615");
     SetHighest(terrain, "1500");
     EXPECT_EQ(Window(), "-20..50") << "a half goes to the even unit";
-    SetLowest(terrain, "9000");
-    EXPECT_EQ(terrain.HeightScale(), 1) << "just below the other end";
-}
-
-TEST_F(LandscapeArea, GivesANewSideToTheUnitsOrToTheMetres) {
-    const LandscapeTexts texts{"15360", "-300", "900"};
-    SetSide(terrain, texts, KeepHeights::InUnits);
-    EXPECT_EQ(terrain.ScaleT(), 60);
-    EXPECT_EQ(Window(), "-10..30");
-    SetSide(terrain, texts, KeepHeights::InMetres);
-    EXPECT_EQ(terrain.ScaleT(), 60);
-    EXPECT_EQ(Window(), "-6..14") << "an odd window rounds";
-    SetSide(terrain, {"768", "3000", "6000"}, KeepHeights::InMetres);
-    EXPECT_EQ(Window(), "14..2000") << "the old highest holds the lowest back";
-
-    SetSide(terrain, {"128", "", ""}, KeepHeights::InUnits);
-    EXPECT_EQ(terrain.ScaleT(), 0.5F) << "as it stands";
-    SetSide(terrain, {"128", "-100", "100"}, KeepHeights::InMetres);
-    EXPECT_EQ(terrain.ScaleT(), 257 / 256.0F) << "limited";
+    SetLowest(terrain, "-300");
+    SetHighest(terrain, "900");
+    const auto side = [&](const LandscapeTexts& texts, KeepHeights keep) {
+        SetSide(terrain, texts, keep);
+        return ShortestText(terrain.ScaleT()) + " m, " + Window();
+    };
+    EXPECT_EQ(side({"15360", "", ""}, KeepHeights::InUnits), "60 m, -10..30");
+    EXPECT_EQ(side({"15360", "-300", "900"}, KeepHeights::InMetres), "60 m, -6..14");
+    EXPECT_EQ(side({"768", "3000", "6000"}, KeepHeights::InMetres), "3 m, 14..2000")
+        << "the old highest holds the lowest back";
+    EXPECT_EQ(side({"128", "", ""}, KeepHeights::InUnits), "0.5 m, 14..2000");
+    EXPECT_EQ(side({"128", "0", "9"}, KeepHeights::InMetres), "1.0039062 m, 0..8") << "limited";
 }
 
 TEST_F(LandscapeArea, StaysAsItWasWhenAHeightDoesNotFit) {

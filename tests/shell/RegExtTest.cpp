@@ -45,12 +45,19 @@ class Association : public testing::Test {
     QCoreApplication application{count, arguments};
 };
 
-TEST_F(Association, OpensTerrainsWhateverThePathsHold) {
+TEST_F(Association, OpensTerrainsWhateverThePathsHoldAndKeepsTheOtherDefaults) {
+    fs::create_directories(config);
+    const std::string mine =
+        "# mine\n[Added Associations]\nimage/png=x.desktop;\n[Default Applications]\n";
+    WriteText(config / "mimeapps.list",
+              mine + "application/x-terragen-terrain=old.desktop\nimage/png=y\n");
     fs::create_directories(program.parent_path());
     WriteText(program, "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"${0%/*}/arguments\"\n");
     fs::permissions(program, fs::perms::owner_all);
     ASSERT_TRUE(Register(program)) << reason;
-
+    ASSERT_TRUE(Register(program)) << reason;
+    EXPECT_EQ(TextOf(config / "mimeapps.list"),
+              mine + "application/x-terragen-terrain=quillbrand.desktop\nimage/png=y\n");
     const QMimeType type = QMimeDatabase().mimeTypeForFile(QStringLiteral("HILL.TER"));
     EXPECT_EQ(type.name().toStdString(), RegExt::terrainType);
     EXPECT_EQ(type.comment().toStdString(), "Terrain <&> Files");
@@ -64,29 +71,7 @@ TEST_F(Association, OpensTerrainsWhateverThePathsHold) {
     EXPECT_EQ(TextOf(program.parent_path() / "arguments"), "/a b/c d.ter\n");
 }
 
-TEST_F(Association, KeepsTheOtherDefaults) {
-    fs::create_directories(config);
-    WriteText(config / "mimeapps.list",
-              "# mine\n[Added Associations]\nimage/png=x.desktop;\n[Default Applications]\n"
-              "application/x-terragen-terrain=old.desktop\nimage/png=y.desktop\n");
-    ASSERT_TRUE(Register(program)) << reason;
-    ASSERT_TRUE(Register(program)) << reason;
-    EXPECT_EQ(TextOf(config / "mimeapps.list"),
-              "# mine\n[Added Associations]\nimage/png=x.desktop;\n[Default Applications]\n"
-              "application/x-terragen-terrain=quillbrand.desktop\nimage/png=y.desktop\n");
-}
-
-TEST_F(Association, PutsBackWhatItWroteWhenAStepFails) {
-    fs::create_directories(entry.parent_path());
-    WriteText(entry, "before");
-    fs::create_directories(config / "mimeapps.list");
-    EXPECT_FALSE(Register(program));
-    EXPECT_NE(reason.find("mimeapps.list"), std::string::npos) << reason;
-    EXPECT_EQ(TextOf(entry), "before");
-    EXPECT_FALSE(fs::exists(data / "mime"));
-}
-
-TEST_F(Association, LeavesNothingWhenAToolFails) {
+TEST_F(Association, PutsBackWhatItWroteWhenAToolFails) {
     const QByteArray path = qgetenv("PATH");
     const auto fails = [&](const std::string& toolName, const std::string& deed) {
         const fs::path tool = folder / toolName;
@@ -104,6 +89,12 @@ TEST_F(Association, LeavesNothingWhenAToolFails) {
     fails("update-mime-database", "/bin/ls \"$1/packages\" >\"$1/listed\"");
     EXPECT_EQ(TextOf(data / "mime/listed"), "") << "it has listed what was there for a moment";
     EXPECT_FALSE(fs::exists(data / "mime/packages"));
+
+    fs::create_directories(entry.parent_path());
+    WriteText(entry, "before");
+    fails("update-desktop-database", "");
+    EXPECT_EQ(TextOf(entry), "before");
+    EXPECT_FALSE(fs::exists(config));
 }
 
 }  // namespace
