@@ -23,7 +23,8 @@ QB_VECTOR_CLONES void ThresholdRow(Pixel* row, int width, const Limits& limits) 
     const auto [blue, green, red] = limits;
     for (int x = 0; x < width; ++x) {
         const Pixel p = row[x];
-        row[x] = BlackOrWhite(p, (Blue(p) >= blue) | (Green(p) >= green) | (Red(p) >= red));
+        const int most = std::max(std::max(Blue(p) - blue, Green(p) - green), Red(p) - red);
+        row[x] = BlackOrWhite(p, most >= 0);
     }
 }
 
