@@ -92,26 +92,22 @@ QB_VECTOR_CLONES void SaturateRow(Pixel* row, int width, double factor) {
     }
 }
 
-/// Least and greatest of each byte of the pixels.
+/// Least and greatest of blue, green and red.
 struct Extremes {
-    std::array<std::uint8_t, channels> least{255, 255, 255, 255};
-    std::array<std::uint8_t, channels> greatest{};
+    std::array<int, 3> least{255, 255, 255};
+    std::array<int, 3> greatest{};
 };
 
 QB_VECTOR_CLONES void FindExtremes(const Pixel* row, int width, Extremes& found) {
-    int least[3] = {found.least[0], found.least[1], found.least[2]};
-    int greatest[3] = {found.greatest[0], found.greatest[1], found.greatest[2]};
+    Extremes extremes = found;
     for (int x = 0; x < width; ++x) {
-        const int values[3] = {Blue(row[x]), Green(row[x]), Red(row[x])};
-        for (int c = 0; c < 3; ++c) {
-            least[c] = std::min(least[c], values[c]);
-            greatest[c] = std::max(greatest[c], values[c]);
+        const std::array<int, 3> values = {Blue(row[x]), Green(row[x]), Red(row[x])};
+        for (std::size_t c = 0; c < values.size(); ++c) {
+            extremes.least[c] = std::min(extremes.least[c], values[c]);
+            extremes.greatest[c] = std::max(extremes.greatest[c], values[c]);
         }
     }
-    for (std::size_t c = 0; c < 3; ++c) {
-        found.least[c] = static_cast<std::uint8_t>(least[c]);
-        found.greatest[c] = static_cast<std::uint8_t>(greatest[c]);
-    }
+    found = extremes;
 }
 
 }  // namespace
