@@ -164,6 +164,7 @@ void DocumentCommands::ShowStep(int sizeBefore) {
         workplace_.ResizePicture();
     workplace_.ShowFixHeight();
     workplace_.RebuildPicture();
+    workplace_.TheHost().Busy(false);
     workplace_.TheHost().ActualScreen();
 }
 
