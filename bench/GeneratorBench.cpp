@@ -4,7 +4,7 @@
 #include "bench/BenchTerrain.h"
 #include "bench/CopyUnit.h"
 #include "generator/GenerateTerrain.h"
-#include "terrain/DoubleGrid.h"
+#include "terrain/Doubling.h"
 #include "tests/support/NoiseSet.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -54,7 +54,7 @@ void Generate2048With11Iterations(benchmark::State& state) {
     const TemporaryFolder folder;
     WriteNoiseSet(folder.Path(), "Bench", 300);
     const PerlinSetTable sets = ScanPerlinSets(folder.Path());
-    const GeneratorContext context{sets, qbGenerator::Bilinear, ModifyModes::Add};
+    const GeneratorContext context{sets, Bilinear, ModifyModes::Add};
     GeneratorSettings settings;
     settings.iterations = 11;
     settings.seed = "123456";

@@ -9,7 +9,7 @@
 #include "base/Numbers.h"
 #include "effects/QBFilter.h"
 #include "generator/Overlay.h"
-#include "terrain/DoubleGrid.h"
+#include "terrain/Doubling.h"
 #include "terrain/ScaleTerrainStep.h"
 #include "terrain/TerrainGuard.h"
 

@@ -4,6 +4,7 @@
 #include <cassert>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "base/Numbers.h"
@@ -251,6 +252,28 @@ void DoubleCells(const SquareArray& grid, int n, const Doubling& doubling, Squar
     // No number counts, but all are drawn.
     chance.Discard(static_cast<std::size_t>(n + 1) * static_cast<std::size_t>(n + 1));
     DoubleByRows(grid, n, doubling.mode == Bilinear ? Interpolate : Repeat, result, done);
+}
+
+void qbGenerator::DoubleGrid(SquareArray& grid, int& n, int mode, int roughness, Host& host) {
+    assert(n >= 0 && grid.Upper() > n);
+    host.Status("Resize Terrain...");
+    host.Busy(true);
+    RandomSource& chance = host.Chance();
+    chance.ReseedFromClock();
+    SquareArray result(2 * n + 1);
+    host.Yield();
+    if (mode >= Randomised && mode <= PixelRepetition) {
+        DoubleCells(grid, n, {.mode = mode, .roughness = roughness / 200.0}, result, chance,
+                    [&host](int) { host.Yield(); });
+    } else {
+        const auto cells = static_cast<std::size_t>(n + 1) * static_cast<std::size_t>(n + 1);
+        chance.Discard(cells);
+        std::fill_n(result.Row(0), 4 * cells, 0);
+    }
+    grid = std::move(result);
+    n = grid.Upper() - 1;
+    host.Busy(false);
+    host.Yield();
 }
 
 }  // namespace quillbrand

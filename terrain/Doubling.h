@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "base/GridMemory.h"
+#include "base/Host.h"
 #include "base/RandomSource.h"
 
 namespace quillbrand {
@@ -29,5 +30,16 @@ struct Doubling {
 /// or 2n + 1.
 void DoubleCells(const SquareArray& grid, int n, const Doubling& doubling, SquareArray& result,
                  RandomSource& chance, const std::function<void(int)>& done);
+
+namespace qbGenerator {
+
+/// Doubles the working grid of the generator: valid cells 0..n in both directions become 0..2n, and
+/// the array's upper index 2n + 1. `roughness` 0..10 disturbs the bilinear mode; a mode that is
+/// none gives zeroes. Draws as DoubleCells does; the source is reseeded from the clock first.
+/// Throws Fault when a cell leaves 32 bits. The busy flag is clear afterwards. Requires: n >= 0,
+/// and `grid` holds cells up to n + 1.
+void DoubleGrid(SquareArray& grid, int& n, int mode, int roughness, Host& host);
+
+}  // namespace qbGenerator
 
 }  // namespace quillbrand

@@ -17,7 +17,8 @@ namespace quillbrand {
 ///
 /// Left without Commit, by a fault, it puts everything back, TerrainSaved too; what the mode of the
 /// history says. Commit makes a step of the history, unless nothing differs, or only the running
-/// extremes or the file's name do. A scope within another one belongs to it: only the outermost one does anything.
+/// extremes or the file's name do. A scope within another one belongs to it: only the outermost one
+/// does anything.
 class HeightsChange {
   public:
     /// `name` is how the user knows the command. Throws Fault where there is no memory to put

@@ -18,8 +18,7 @@ auto BytesOf(TerHeader header) {
 }  // namespace
 
 bool DocumentState::SameAs(const DocumentState& other) const {
-    return TerrainEmpty == other.TerrainEmpty &&
-           terrain.FixHeight == other.terrain.FixHeight &&
+    return TerrainEmpty == other.TerrainEmpty && terrain.FixHeight == other.terrain.FixHeight &&
            BytesOf(terrain.header) == BytesOf(other.terrain.header);
 }
 

@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "terrain/DoubleGrid.h"
+#include "terrain/Doubling.h"
 #include "tests/support/Faults.h"
 #include "tests/support/Grids.h"
 #include "tests/support/NoiseSet.h"
@@ -63,7 +63,7 @@ class Generator : public ::testing::Test {
     TemporaryFolder folder_;
     PerlinSetTable sets_;
     GeneratorSettings settings_;
-    int resizeMode_ = qbGenerator::Bilinear;
+    int resizeMode_ = Bilinear;
     int mode_ = ModifyModes::Add;
     RecordingHost host_;
     Picture pictures_[5];

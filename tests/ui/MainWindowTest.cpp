@@ -44,8 +44,8 @@ TEST_F(MainWindow, OffersNothingThatIsNotThere) {
     Produce("151");
     for (const char* key : {"View3d", "ObjectMaker"})
         EXPECT_FALSE(ToolIsEnabled(key)) << key;
-    for (const char* name : {"cmdMask", "CmdResize", "Toolbar2", "ToolBarPen", "cmdObjLoad",
-                             "cmdObjMergeAll", "cmdObjDeleteAll", "cmdObjektmaker"})
+    for (const char* name : {"cmdMask", "ToolBarPen", "cmdObjLoad", "cmdObjMergeAll",
+                             "cmdObjDeleteAll", "cmdObjektmaker"})
         EXPECT_FALSE(Find<QWidget>(name)->isEnabled()) << name;
 }
 

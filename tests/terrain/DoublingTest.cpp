@@ -1,4 +1,4 @@
-#include "terrain/DoubleGrid.h"
+#include "terrain/Doubling.h"
 
 #include <gtest/gtest.h>
 
