@@ -72,7 +72,7 @@ void ApplyEffect(int code, clsTerrain& terrain, float strength, const Area& area
                  const Surroundings& surroundings, Host& host);
 
 // The effects themselves. All tell the host their status text and percent, let events through once
-// a column or oftener, and change `strength` as told, for a caller that goes on with it. But for
+// a column or oftener, and change `strength` for a caller that goes on with it. But for
 // FilterInvert they set the busy flag, and leave it set for the caller to clear. Each throws Fault
 // where a height leaves its range, with the heights in any state.
 

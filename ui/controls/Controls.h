@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-/// Short ways to make controls under their system names.
+/// Short ways to make controls; each is known by its objectName.
 namespace quillbrand {
 
 /// The rhythm of all layouts, in pixels.

@@ -17,7 +17,7 @@ class dlgFltErosion;
 
 /// The tab "Effects".
 ///
-/// The strengths are kept one off on purpose, as people know it: choosing effect i shows entry i of
+/// The strengths are kept one off on purpose: choosing effect i shows entry i of
 /// `EffectStrength`, while the slider writes, and "Start !" runs, entry i + 1.
 class EffectsPanel : public QWidget {
     Q_OBJECT
