@@ -15,7 +15,6 @@
 #include "base/VectorClones.h"
 #include "effects/Gauss.h"
 #include "terrain/HeightWriter.h"
-#include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
 
@@ -134,24 +133,11 @@ class Hill {
     std::vector<Height> amounts_;
 };
 
-/// Whether every height of an area can move by `most`, even four times where lines fall together.
-bool HasRoom(const clsTerrain& terrain, const Area& area, double most) {
-    if (area.Rect().IsEmpty())
-        return true;
-    const Extremes found = terrain.Measure(area.Rect());
-    return found.low - 4 * most > INT32_MIN && found.high + 4 * most < INT32_MAX;
-}
-
-/// Throws where a height leaves 32 bits, with the heights as they were.
+/// Throws where a height leaves 32 bits.
 void AddHill(clsTerrain& terrain, const Frame& given, double k, Host& host) {
     const Frame frame = Converted(given);
     const Area area(terrain, frame);
-    std::optional<TerrainGuard> guard;
-    if (!HasRoom(terrain, area, std::fabs(k)))
-        guard.emplace(terrain);
     Hill(area, frame, k).AddTo(terrain, host);
-    if (guard)
-        guard->Commit();
 }
 
 /// How much a step of `sldDepthEffects` raises, before the bell.

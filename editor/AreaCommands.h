@@ -15,8 +15,8 @@ namespace quillbrand {
 void FillArea(clsTerrain& terrain, const Frame& frame, int height, bool& TerrainEmpty, Host& host);
 
 /// "lift Terrain" and "lower Terrain": a hill or a pit over the frame, 900 * `depth` (0..30) high
-/// in its middle. Widens the running extremes as IncrPoint does. Throws Fault, with nothing
-/// changed, where a height leaves 32 bits.
+/// in its middle. Widens the running extremes as IncrPoint does. Throws Fault, with the heights in
+/// any state, where one leaves 32 bits.
 void RaiseArea(clsTerrain& terrain, const Frame& frame, int depth, bool& TerrainEmpty, Host& host);
 void LowerArea(clsTerrain& terrain, const Frame& frame, int depth, bool& TerrainEmpty, Host& host);
 

@@ -11,7 +11,6 @@
 #include "base/Numbers.h"
 #include "base/VectorClones.h"
 #include "terrain/Doubling.h"
-#include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
 
@@ -138,7 +137,6 @@ void ResizeTerrain(clsTerrain& terrain, const ResizeRequest& request, Host& host
     RequireSize(request.size);
     host.Status("Resize Terrain...");
     host.Yield();
-    TerrainGuard guard(terrain);
     if (request.isEmpty || terrain.Size() == request.size) {
         terrain.Init(request.size + 1);
         terrain.MinTU(-10);
@@ -146,7 +144,6 @@ void ResizeTerrain(clsTerrain& terrain, const ResizeRequest& request, Host& host
     } else {
         StepTo(terrain, request, host);
     }
-    guard.Commit();
 }
 
 }  // namespace quillbrand

@@ -22,14 +22,14 @@ struct ResizeRequest {
 /// terrain until it has the size, five times at most; a terrain whose size is no power of two may
 /// so never reach it. An empty terrain, or one that has the size already, is not asked about: it
 /// becomes an empty one with the window -10..10. The busy flag stays set for the caller to clear.
-/// Throws Fault, with the terrain as it was, for a size or a mode that is none, and where a height
+/// Throws Fault, with the terrain in any state, for a size or a mode that is none, and where a height
 /// or an end of the window leaves its range.
 void ResizeTerrain(clsTerrain& terrain, const ResizeRequest& request, Host& host);
 
 namespace QBTools2 {
 
 // One step each; header values other than the size stay. The busy flag stays set. Each throws
-// Fault, with the terrain as it was.
+// Fault, with the terrain in any state.
 
 /// Every point becomes the mean of 2 x 2.
 void HalveTerrain(clsTerrain& terrain, Host& host);

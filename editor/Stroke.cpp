@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "base/Numbers.h"
-#include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
 
@@ -113,7 +112,6 @@ void RunStroke(clsTerrain& terrain, const Stroke& stroke, const StrokeMap& map,
     host.Status("Filter Process.....");
     const int columns = terrain.XPoints();
     const auto points = map.Points(columns);
-    TerrainGuard guard(terrain);
     Brush brush(terrain, stroke, surroundings, host);
     auto next = points.begin();
     for (int x = 1; x <= columns; ++x) {
@@ -122,7 +120,6 @@ void RunStroke(clsTerrain& terrain, const Stroke& stroke, const StrokeMap& map,
         for (; next != points.end() && next->x == x; ++next)
             brush.WorkOn(*next);
     }
-    guard.Commit();
     if (!points.empty())
         surroundings.TerrainEmpty = surroundings.TerrainSaved = false;
     host.Progress(100);

@@ -29,7 +29,7 @@ struct StrokeSurroundings {
 /// The release of a stroke tool: the tool works on the square around each marked point of
 /// 1..XPoints in turn, by x, then by y, so that overlapping squares add up. If there is any, both
 /// flags are cleared. "up" and "down" widen the running extremes as IncrPoint does. The busy flag
-/// stays set for the caller to clear. Throws Fault, with terrain and flags as they were: a height
+/// stays set for the caller to clear. Throws Fault, with the heights in any state: a height
 /// that leaves its range, a picture of the river bed that cannot be read, "Erode" at the depths 21
 /// to 23, which it would have to divide by 0.
 /// Requires: a tool; size and depth within their ranges.

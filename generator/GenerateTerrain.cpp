@@ -11,7 +11,6 @@
 #include "generator/Overlay.h"
 #include "terrain/DoubleGrid.h"
 #include "terrain/ScaleTerrainStep.h"
-#include "terrain/TerrainGuard.h"
 
 namespace quillbrand {
 
@@ -153,7 +152,6 @@ void ProduceTerrain(clsTerrain& current, int size, const GeneratorSettings& sett
     host.Status("Generate Terrain.....");
     host.Progress(0);
     host.Yield();
-    TerrainGuard guard(current);
     if (settings.clearTerrain)
         current.Init(size + 1);
     GenerateTerrain(current, size, settings, context, host);
@@ -161,7 +159,6 @@ void ProduceTerrain(clsTerrain& current, int size, const GeneratorSettings& sett
     host.Busy(true);
     host.Progress(0);
     ScaleTerrainStep(current, host);
-    guard.Commit();
 }
 
 clsTerrain PreviewOf(const clsTerrain& current, bool currentIsEmpty,

@@ -32,7 +32,7 @@ void GenerateTerrain(clsTerrain& terrain, int size, const GeneratorSettings& set
                      const GeneratorContext& context, Host& host);
 
 /// "Produce terrain !": a run over `current`, or over a flat terrain of `size` intervals where the
-/// settings say so. Throws Fault with `current` unchanged.
+/// settings say so. Throws Fault with `current` in any state.
 void ProduceTerrain(clsTerrain& current, int size, const GeneratorSettings& settings,
                     const GeneratorContext& context, Host& host);
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <tuple>
 
+#include "shell/EditingCommands.h"
 #include "shell/EffectCommands.h"
 #include "shell/GeneratorCommands.h"
 #include "shell/TerrainCommands.h"
@@ -100,8 +101,16 @@ TEST_F(Commands, AreStepsWhoseResultsComeBackFromFileAndBackup) {
 
 TEST_F(Commands, ThatFailChangeNothingAndAreNoSteps) {
     WriteText(folder / "short.ter", "TERRAGENTERRAIN SIZE" + std::string(90, '\1'));
+    HeightsChange edit(document, "Edit");
+    document.CurrentTerrain.SetPoint(60, 60, INT32_MAX - 100);
+    edit.Commit();
     NewTerrain(document);
     document.Undo();
+    tools.gaussTable = GaussTable(GaussTable::standardUpper);
+    StrokeMap map;
+    map.Clear(129);
+    map.Press({20, 20});
+    map.Press({61, 61});
     const auto fail = []() -> std::optional<ErosionSettings> { throw Fault("no dialog"); };
     const std::function<void()> commands[] = {
         [&] { SaveTerrain(document, folder / "nowhere/a.ter", true, host); },
@@ -111,6 +120,16 @@ TEST_F(Commands, ThatFailChangeNothingAndAreNoSteps) {
         [&] { RestoreTerrain(document, folder / "nowhere/a.qbt"); },
         [&] { Produce({.set = 5, .seed = {}, .clearTerrain = true}); },
         [&] { Start({.code = 5, .strength = 1}); },
+        [&] {
+            LiftArea(document, {0, 0, 128, 128}, 30, host);
+        },
+        [&] {
+            ReflectArea(document, {0, 0, 140, 140}, Reflection::Vertically, host);
+        },
+        [&] { ResizeDocument(document, 100, 1, 0, host); },
+        [&] {
+            StartStroke(document, tools, session.settings, {StrokeTool::Up, 10, 30}, map, host);
+        },
         [&] { Start({.code = 12, .strength = 1, .startErosion = fail}); }};
     const auto before = State();
     for (const auto& command : commands) {

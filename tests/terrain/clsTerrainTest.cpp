@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "base/Fault.h"
-#include "terrain/TerrainGuard.h"
 #include "tests/support/Grids.h"
 #include "tests/support/SlowTwins.h"
 
@@ -233,19 +232,12 @@ TEST(TerrainArrays, CopyAllCellsBothWays) {
     EXPECT_EQ(AllCells(other), AllCells(terrain));
 }
 
-TEST(clsTerrain, KeepsItsGridWhenASizeIsImpossibleOrAGuardIsNotCommitted) {
+TEST(clsTerrain, KeepsItsGridWhenASizeIsImpossible) {
     clsTerrain terrain = GridFrom("1 2 / 3 4");
     EXPECT_THROW(terrain.Size(2), Fault);
     EXPECT_THROW(terrain.Init(0), Fault);
     EXPECT_THROW(terrain.Init(32768), Fault);
     EXPECT_EQ(TextOf(terrain), "1 2 / 3 4");
-    {
-        const TerrainGuard guard(terrain);
-        terrain.Init(9);
-        terrain.HeightScale(1);
-    }
-    EXPECT_EQ(TextOf(terrain), "1 2 / 3 4");
-    EXPECT_EQ(terrain.HeightScale(), 30);
 }
 
 }  // namespace
