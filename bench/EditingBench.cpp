@@ -86,16 +86,6 @@ void LiftWhole(benchmark::State& state) {
 }
 QB_BENCHMARK(LiftWhole);
 
-/// Sides half-way between the points, as a zoom of 2 gives them.
-void LiftHalfWay(benchmark::State& state) {
-    constexpr Frame halfWay{0.5f, 0.5f, benchPoints - 1, benchPoints - 1};
-    MeasureArea(state, 0, halfWay,
-                [](clsTerrain& terrain, const Frame& frame, bool& empty, Host& host) {
-                    RaiseArea(terrain, frame, 15, empty, host);
-                });
-}
-QB_BENCHMARK(LiftHalfWay);
-
 void ReflectHorizontally(benchmark::State& state) {
     MeasureArea(state, 3, whole,
                 [](clsTerrain& terrain, const Frame& frame, bool& empty, Host& host) {

@@ -115,13 +115,12 @@ class Hill {
     }
 
     void AddTo(clsTerrain& terrain, Host& host) {
+        const auto count = static_cast<std::ptrdiff_t>(columnBells_.size());
         area_.ForEachRow(host, [&](std::size_t row, const std::vector<Run>& runs) {
-            for (const Run& run : runs) {
-                FillAmounts(&columnBells_[run.line], static_cast<std::ptrdiff_t>(run.count),
-                            rowBells_[row], k_, amounts_.data());
+            FillAmounts(columnBells_.data(), count, rowBells_[row], k_, amounts_.data());
+            for (const Run& run : runs)
                 terrain.IncrPoints(run.column, area_.Rows()[row].cell,
-                                   std::span(amounts_).first(run.count));
-            }
+                                   std::span(amounts_).subspan(run.line, run.count));
         });
     }
 
