@@ -4,7 +4,6 @@
 #include <cassert>
 #include <cmath>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
