@@ -55,7 +55,7 @@ Spans FlatBrush(int width, bool isColumn) {
 
 Spans Brushed(const Spans& trace, const Spans& brush, const QRect& clip) {
     Spans covered;
-    covered.reserve(trace.size() * brush.size());
+    covered.reserve(trace.size());
     for (const Span& run : trace)
         for (const Span& row : brush) {
             const Span span{run.y + row.y, std::max(run.left + row.left, clip.left()),
