@@ -102,6 +102,12 @@ TEST_F(ElevatorTest, OpensWithTheLineWhereTheSetsFileIsMissingOrShort) {
     EXPECT_THROW(ChooseElevatorSet(elevator_, 2), Fault);
     EXPECT_EQ(elevator_.ElevatorSetIndex, 0);
     EXPECT_EQ(elevator_.grid(100, 156), 1);
+
+    WriteText(folder_ / "sets.dat", std::string(277, '\0'));
+    elevator_.ElevatorSetIndex = 1;
+    OpenElevator(elevator_);
+    EXPECT_EQ(elevator_.grid(100, 0), 1);
+    EXPECT_FALSE(elevator_.grid.IsArmed()) << "by a mark in the first column's top row";
 }
 
 TEST_F(ElevatorTest, ShiftsOnlyWhenArmedAndStaysSo) {

@@ -142,8 +142,10 @@ TEST(ErosionSettings, SurviveAFileAndFallBackToItsOwnDefaults) {
     EXPECT_EQ(LoadErosionSettings(folder / "a.par"), settings);
     EXPECT_NE(TextOf(folder / "a.par").find("key=1"), std::string::npos);
     EXPECT_NE(TextOf(folder / "a.par").find("DropCount=12300"), std::string::npos);
-    WriteText(folder / "b.par", "[EROSION]\nLLDEPHT= 2.5 points\nEroDepht=99\n");
+    WriteText(folder / "b.par", "[EROSION]\nDropCount=9\nLLDEPHT= 2.5 points\nEroDepht=99\n");
     EXPECT_EQ(LoadErosionSettings(folder / "b.par"), (ErosionSettings{1000, 1, 2, 8}));
+    WriteText(folder / "c.par", "");
+    EXPECT_EQ(LoadErosionSettings(folder / "c.par"), (ErosionSettings{1000, 1, 1, 4}));
     EXPECT_THROW(LoadErosionSettings(folder / "none.par"), Fault);
 }
 

@@ -42,7 +42,7 @@ TEST(PerlinSets, StandInTheOrderOfTheirFileNamesAndEndAtAnEmptyName) {
 
 TEST(ReliefPicture, IsReadAgainWhenTimeOrSizeOfItsFileIsAnother) {
     const TemporaryFolder folder;
-    const auto path = folder / "a.bmp";
+    auto path = folder / "a.bmp";
     std::filesystem::file_time_type time;
     const auto loaded = [&](int width, QRgb blue) {
         Picture picture(width, 1);
@@ -57,6 +57,8 @@ TEST(ReliefPicture, IsReadAgainWhenTimeOrSizeOfItsFileIsAnother) {
     time += std::chrono::nanoseconds(1);
     EXPECT_EQ(loaded(4, 3), 3);
     EXPECT_EQ(loaded(9, 4), 4);
+    path = folder / "b.bmp";
+    EXPECT_EQ(loaded(9, 5), 5);
 }
 
 TEST(PerlinSetFile, HoldsTheScaledGridWithItsMarginAndACutName) {
@@ -64,6 +66,7 @@ TEST(PerlinSetFile, HoldsTheScaledGridWithItsMarginAndACutName) {
     RecordingHost host;
     clsTerrain terrain = GridFrom("-100 2 3 / 4 5 6 / 7 8 100");
     terrain.SetPoint(4, 4, 100000);
+    terrain.SetPoint(0, 4, 100000);
     SavePerlinSet(terrain, folder / "a.QPS", "A name of thirty characters, no", host);
     const std::string text = TextOf(folder / "a.QPS");
     ASSERT_EQ(text.size(), 61u + 2 * 13 * 13);
@@ -77,6 +80,7 @@ TEST(PerlinSetFile, HoldsTheScaledGridWithItsMarginAndACutName) {
     EXPECT_EQ(cell(2, 1), terrain.GetPoint(2, 1));
     EXPECT_GT(terrain.Range(), 60000);
     EXPECT_EQ(cell(5, 5), 0);
+    EXPECT_EQ(cell(0, 4), 32767);
     EXPECT_EQ(cell(4, 4), 32767) << "the margin is limited";
 
     terrain.FixHeight(true);  // which puts the cell 1,1 back as it was

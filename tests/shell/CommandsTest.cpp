@@ -69,7 +69,11 @@ TEST_F(Commands, AreStepsWhoseResultsComeBackFromFileAndBackup) {
     Start({.code = 1, .strength = 5, .zMin = 5000, .zMax = 6000});
     EXPECT_FALSE(document.history.CanUndo()) << "no height lies between these limits";
     ExpectStep("Smooth", [&] { Start({.code = 1, .strength = 5}); });
+    SaveTerrain(document, folder / "b.ter", false, host);
+    EXPECT_EQ(document.history.NameOfUndo(), "Smooth") << "nothing was stretched";
+    WriteText(folder / "a.ter", std::string(99999, 'x'));
     ExpectStep("Save", [&] { SaveTerrain(document, folder / "a.ter", true, host); });
+    EXPECT_LT(std::filesystem::file_size(folder / "a.ter"), 99999u);
     EXPECT_TRUE(document.TerrainSaved);
     EXPECT_EQ(document.CurrentFile, (folder / "a.ter").string());
     const std::string saved = TextOf(document.CurrentTerrain);
@@ -81,8 +85,10 @@ TEST_F(Commands, AreStepsWhoseResultsComeBackFromFileAndBackup) {
     ExpectStep("Restore Terrain", [&] { RestoreTerrain(document, BackupPath(session.settings)); });
     EXPECT_EQ(TextOf(document.CurrentTerrain), saved);
     EXPECT_GT(document.CurrentTerrain.max(), 30000) << "the extremes are measured";
+    EXPECT_FALSE(document.TerrainEmpty);
 
-    ExpectStep("Clear Terrain", [&] { ClearTerrain(document, 129); });
+    ExpectStep("Clear Terrain", [&] { ClearTerrain(document, 5); });
+    EXPECT_EQ(document.CurrentTerrain.XPoints(), 5);
     EXPECT_EQ(document.CurrentFile, "noname");
     EXPECT_EQ(document.CurrentTerrain.MinTU(), -10);
     EXPECT_EQ(document.CurrentTerrain.MaxTU(), 30);
@@ -96,6 +102,9 @@ TEST_F(Commands, AreStepsWhoseResultsComeBackFromFileAndBackup) {
     ExpectStep("Save as Perlin set", [&] { SaveAsPerlinSet(document, folder / "a", "x", host); });
     noise();
     ExpectStep("Optimized", [&] { ScaleHeights(document, host); });
+    std::filesystem::copy(folder / "PS/Dots01.png", folder / "erode0.flt");
+    ExpectStep("Erosion (River)", [&] { Start({.code = 5, .strength = 1, .seed = "1"}); });
+    EXPECT_EQ(tools.ErodePictureName, "erode0.flt") << "for the pen";
     ExpectStep("Invers", [&] { Start({.code = 3, .strength = 1}); });
 }
 
@@ -157,6 +166,7 @@ TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
     EXPECT_EQ(tools.ModifyMode, ModifyModes::Multiplication);
     Produce({.seed = "1", .clearTerrain = true});
     EXPECT_EQ(document.CurrentTerrain.Range(), 0) << "nothing times the relief is nothing";
+    EXPECT_EQ(document.CurrentTerrain.XPoints(), 129);
     EXPECT_EQ(tools.ModifyMode, ModifyModes::Add);
 
     ClearTerrain(document, 129);

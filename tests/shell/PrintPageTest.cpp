@@ -109,7 +109,9 @@ TEST_F(PrintedPage, MakesAJobOfEachCopyAndFitsLowPaperWithMargins) {
     EXPECT_EQ(buffer.data().count("%PDF-"), 3);
     const QByteArray last = buffer.data().mid(buffer.data().lastIndexOf("%PDF-"));
     WriteText(folder / "last.pdf", last.toStdString());
-    ExpectPictureBelowText(PdfPage(folder / "last.pdf", 1, 144));
+    const QImage page = PdfPage(folder / "last.pdf", 1, 144);
+    ExpectPictureBelowText(page);
+    EXPECT_NEAR(Extent(page, false).right(), page.width() - 90, 4) << "the path as wide as it can";
 }
 
 }  // namespace

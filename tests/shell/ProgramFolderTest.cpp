@@ -39,8 +39,11 @@ TEST_F(ProgramFolder, IsTheToldOneThenTheExecutablesWhenThatHoldsTheSets) {
 }
 
 TEST_F(ProgramFolder, IsOtherwiseTheUsersOwnFilledWithWhatItLacks) {
+    fs::create_directories(places.own);
+    WriteText(places.own / "erode0.flt", "mine");
     EXPECT_EQ(FindProgramFolder(places), places.own);
     EXPECT_EQ(TextOf(places.own / "PS/One.INI"), "one");
+    EXPECT_EQ(TextOf(places.own / "erode0.flt"), "mine");
     WriteText(places.own / "PS/One.INI", "mine");
     fs::remove(places.own / "erode0.flt");
     EXPECT_EQ(FindProgramFolder(places), places.own);

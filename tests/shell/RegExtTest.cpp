@@ -66,6 +66,7 @@ TEST_F(Association, OpensTerrainsWhateverThePathsHoldAndKeepsTheOtherDefaults) {
     std::string command = Replaced(IniFile::Read(entry).Get("Desktop Entry", "Exec"), "\\\\", "\\");
     ASSERT_TRUE(command.ends_with(" %f"));
     command.resize(command.size() - 2);
+    EXPECT_EQ(Replaced(command, "%%", "").find('%'), std::string::npos) << "it would be a code";
     command = Replaced(command, "%%", "%") + "'/a b/c d.ter'";
     EXPECT_EQ(std::system(command.c_str()), 0) << command;
     EXPECT_EQ(TextOf(program.parent_path() / "arguments"), "/a b/c d.ter\n");
