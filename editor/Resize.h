@@ -22,8 +22,8 @@ struct ResizeRequest {
 /// terrain until it has the size, five times at most; a terrain whose size is no power of two may
 /// so never reach it. An empty terrain, or one that has the size already, is not asked about: it
 /// becomes an empty one with the window -10..10. The busy flag stays set for the caller to clear.
-/// Throws Fault, with the terrain in any state, for a size or a mode that is none, and where a height
-/// or an end of the window leaves its range.
+/// Throws Fault, with the terrain in any state, for a size or a mode that is none, and where a
+/// height or an end of the window leaves its range.
 void ResizeTerrain(clsTerrain& terrain, const ResizeRequest& request, Host& host);
 
 namespace QBTools2 {

@@ -80,8 +80,8 @@ void StartTerragen(Document& document, const Settings& settings, Host& host,
                    const std::function<void()>& saveUnnamed) {
     if (document.TerrainEmpty)
         throw Fault("Terrain empty !", "Save");
-    const Answer answer =
-        host.Ask({"Terrain save, before start terragen", "Start Terragen", Buttons::YesNoCancel, QuestionId::SaveFirst});
+    const Answer answer = host.Ask({"Terrain save, before start terragen", "Start Terragen",
+                                    Buttons::YesNoCancel, QuestionId::SaveFirst});
     const std::string folder = vbConfig::ReadIni(settings, "Terragen", "directory");
     if (folder.empty())
         throw Fault(selectFolder, "Start Terragen");
