@@ -37,6 +37,7 @@ struct Tools {
     double ViewZoom = 1.0;
     int RandomSeedValue = 0;
     std::string seedText;           ///< the generator's seed as its text stands
+    int roughness = 0;              ///< the generator's, 0..10 (`Slider3`)
     std::optional<int> chosenSize;  ///< the grid size that is ticked
     int ModifyMode = ModifyModes::Add;
     PerlinSetTable PerlinSets;

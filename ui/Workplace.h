@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <optional>
 #include <string>
 
@@ -27,6 +28,9 @@ class Workplace {
 
     /// `BuildHeightPicture` into the plan view.
     virtual void RebuildPicture() = 0;
+
+    /// A line on what happened, which stays for a while in the status bar.
+    virtual void Say(const QString& text) = 0;
 
     /// Shows the terrain's "fix Height" after it came from elsewhere than its check box.
     virtual void ShowFixHeight() = 0;

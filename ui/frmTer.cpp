@@ -131,6 +131,10 @@ void frmTer::ShowFixHeight() {
     globalPanel_->ShowFixHeight();
 }
 
+void frmTer::Say(const QString& text) {
+    sBar_->showMessage(text, messageMs);
+}
+
 void frmTer::UpdateTitle() {
     const QString file = QString::fromStdString(session_.document.CurrentFile);
     if (!isMinimized()) {
@@ -168,8 +172,7 @@ void frmTer::ShowHistory() {
     show(QStringLiteral("Undo"), history.CanUndo(), history.NameOfUndo());
     show(QStringLiteral("Redo"), history.CanRedo(), history.NameOfRedo());
     if (history.LostHistory())
-        sBar_->showMessage(QStringLiteral("Not enough memory: nothing before can be undone"),
-                           messageMs);
+        Say(QStringLiteral("Not enough memory: nothing before can be undone"));
 }
 
 void frmTer::EnableInput(bool enable) {

@@ -51,6 +51,7 @@ class frmTer : public QMainWindow, public Workplace {
     void ResizePicture(double factor = 1) override;
     void RebuildPicture() override;
     void ShowFixHeight() override;
+    void Say(const QString& text) override;
 
     /// Opens a TER file like the dialog does; a fault is shown.
     void OpenFile(const std::filesystem::path& path);

@@ -1,6 +1,10 @@
+#include <QLabel>
 #include <QLineEdit>
+#include <QStatusBar>
 
+#include "tests/support/Grids.h"
 #include "tests/ui/WindowFixture.h"
+#include "ui/plan/PictureBox.h"
 
 namespace quillbrand {
 namespace {
@@ -116,6 +120,64 @@ TEST_F(Landscape, AsksNothingForASideThatTheUserLeftAlone) {
     EXPECT_EQ(user.seen, QStringList("Save: Terrain empty !"));
     EXPECT_EQ(Leave(), QStringList()) << "the command's end has shown the terrain again";
     EXPECT_EQ(terrain_.ScaleT(), 30);
+}
+
+TEST_F(Landscape, ResizesToTheSizeThatIsTicked) {
+    Produce("4711");
+    ShowTab("Global");
+    const std::string window = HeaderText(terrain_);
+    const auto before = Heights();
+    Click("optTerSize0");
+    {
+        ModalUser user({Press("No")});
+        Click("CmdResize");
+        EXPECT_EQ(user.seen,
+                  QStringList("Resize terrain: Adjust the point spacing to keep the real-world "
+                              "size as before?"));
+    }
+    EXPECT_EQ(terrain_.Size(), 128);
+    EXPECT_EQ(Find<QStatusBar>("sBar")->currentMessage(), "Resized from 256 x 256 to 128 x 128");
+    EXPECT_EQ(Find<QLabel>("sBarPanel1")->text().left(9), "128 x 128");
+    EXPECT_EQ(Find<PictureBox>("Picture1")->Raster().Width(), 129);
+    EXPECT_FALSE(session_.TerrainBusy);
+    ClickTool("Undo");
+    EXPECT_EQ(Heights(), before);
+    EXPECT_EQ(HeaderText(terrain_), window);
+    EXPECT_TRUE(Find<QAbstractButton>("optTerSize1")->isChecked());
+
+    Click("optTerSize2");
+    const int highest = terrain_.MaxTU();
+    ModalUser user({Press("Yes")});
+    Click("CmdResize");
+    EXPECT_EQ(terrain_.Size(), 512);
+    EXPECT_EQ(terrain_.MaxTU(), 2 * highest);
+}
+
+TEST_F(Landscape, ThrowsTheTerrainAwayAtTheSizeThatItHasAndUndoBringsItBack) {
+    Produce("4711");
+    ShowTab("Global");
+    const auto before = Heights();
+    Click("optTerSize1");
+    {
+        ModalUser user({});
+        Click("CmdResize");
+        EXPECT_EQ(user.seen, QStringList()) << "no question";
+    }
+    EXPECT_NE(Heights(), before);
+    EXPECT_EQ(terrain_.MaxTU(), 10);
+    EXPECT_EQ(Find<QStatusBar>("sBar")->currentMessage(),
+              "A flat terrain of 256 x 256 has taken the old one's place");
+    ClickTool("Undo");
+    EXPECT_EQ(Heights(), before);
+}
+
+TEST_F(Landscape, SaysThatNoSizeIsChosen) {
+    Edit([](clsTerrain& terrain) { terrain.Init(301); });
+    window_->ResizePicture();
+    ModalUser user({Press("OK")});
+    Click("CmdResize");
+    EXPECT_EQ(user.seen, QStringList("Resize: No size of the grid is chosen"));
+    EXPECT_EQ(terrain_.Size(), 300);
 }
 
 }  // namespace

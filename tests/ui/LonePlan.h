@@ -30,6 +30,7 @@ class LonePlan : public Workplace {
     void ResizePicture(double factor) override { view.Resize(factor, limit_); }
     void RebuildPicture() override { view.Rebuild(); }
     void ShowFixHeight() override {}
+    void Say(const QString& /*text*/) override {}
 
     clsTerrain& Terrain() { return session.document.CurrentTerrain; }
 

@@ -52,6 +52,8 @@ QWidget* GeneratorPanel::BuildSetFrame() {
                               "max     Structure    min", "Structure size");
     roughness_ = addSlider("Slider3", {.low = 0, .high = 10, .start = 0, .bigStep = 5, .ticks = 1},
                            "0        roughness    max", "");
+    connect(roughness_, &QSlider::valueChanged, this,
+            [this](int value) { workplace_.TheSession().tools.roughness = value; });
     layout->addLayout(BuildSeedRow());
     chkHighResolution_ = MakeCheck("chkHighResolution", "finer Structures",
                                    "create finer structures. Need more computing time");

@@ -7,7 +7,9 @@
 #include <array>
 #include <utility>
 
+#include "base/Fault.h"
 #include "base/NumberText.h"
+#include "shell/EditingCommands.h"
 #include "shell/LandscapeArea.h"
 #include "terrain/HeightsChange.h"
 #include "ui/controls/Controls.h"
@@ -86,7 +88,7 @@ QWidget* GlobalPanel::BuildGridPoints() {
         ++index;
     }
     auto* CmdResize = MakeButton("CmdResize", "Resize", "Resize the Landscape");
-    CmdResize->setEnabled(false);
+    connect(CmdResize, &QPushButton::clicked, this, &GlobalPanel::CmdResize_Click);
     grid->addWidget(CmdResize, sizeRows - 1, 1);
     return frame;
 }
@@ -254,6 +256,28 @@ QString GlobalPanel::LowestText() const {
 
 QString GlobalPanel::HighestText() const {
     return txtMaxTerrain_->text();
+}
+
+void GlobalPanel::CmdResize_Click() {
+    FinishLeaving();
+    RunCommand(workplace_.Window(), workplace_.TheHost(), QStringLiteral("Resize"),
+               [this] { Resize(); });
+}
+
+void GlobalPanel::Resize() {
+    Session& session = workplace_.TheSession();
+    Host& host = workplace_.TheHost();
+    if (!session.tools.chosenSize)
+        throw Fault("No size of the grid is chosen");
+    workplace_.ShowPlanView();
+    const std::string outcome =
+        ResizeDocument(session.document, *session.tools.chosenSize, session.settings.ResizeMode,
+                       session.tools.roughness, host);
+    workplace_.ResizePicture();
+    workplace_.RebuildPicture();
+    host.Busy(false);
+    host.ActualScreen();
+    workplace_.Say(QString::fromStdString(outcome));
 }
 
 void GlobalPanel::chkCurved_Click(bool ticked) {

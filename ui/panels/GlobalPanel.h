@@ -52,6 +52,8 @@ class GlobalPanel : public QWidget {
     void FinishLeaving();
     void Change(const QString& command, const std::function<void(clsTerrain&)>& change);
 
+    void CmdResize_Click();
+    void Resize();
     void chkCurved_Click(bool ticked);
     void cmdEarth_Click();
     void cmdMoon_Click();
