@@ -190,15 +190,15 @@ void LowerArea(clsTerrain& terrain, const Frame& frame, int depth, bool& Terrain
     TerrainEmpty = false;
 }
 
-void ReflectArea(clsTerrain& terrain, const Frame& given, Reflection way, bool& TerrainEmpty,
+void ReflectArea(clsTerrain& terrain, const Frame& frame, Reflection way, bool& TerrainEmpty,
                  Host& host) {
     host.Busy(true);
-    const Frame frame = Converted(given);
-    RequireInGrid(frame, terrain.Size() + 2);
-    const int x1 = RoundTo32(frame.left);
-    const int y1 = RoundTo32(frame.top);
-    const int x2 = RoundTo32(frame.right);
-    const int y2 = RoundTo32(frame.bottom);
+    const Frame ordered = Converted(frame);
+    RequireInGrid(ordered, terrain.Size() + 2);
+    const int x1 = RoundTo32(ordered.left);
+    const int y1 = RoundTo32(ordered.top);
+    const int x2 = RoundTo32(ordered.right);
+    const int y2 = RoundTo32(ordered.bottom);
     if (way == Reflection::Horizontally)
         terrain.GetReflectHor(x1, y1, x2, y2);
     else

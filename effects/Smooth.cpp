@@ -96,7 +96,7 @@ class Sweep {
           rect_(area.CutTo(grid_, extent_)),
           writer_(terrain, rect_),
           strip_(terrain, rect_) {
-        MeasureHeights();
+        MeasureHeights(terrain);
     }
 
     void Run(bool forward) {
@@ -110,8 +110,8 @@ class Sweep {
 
   private:
     /// The extremes of all heights that a mean can take in; means never leave them.
-    void MeasureHeights() {
-        const Extremes found = writer_.Terrain().Measure(
+    void MeasureHeights(const clsTerrain& terrain) {
+        const Extremes found = terrain.Measure(
             GridRect::Cut(rect_.x0 - 1, rect_.y0 - 1, rect_.x1 + 1, rect_.y1 + 1, grid_));
         isNarrow_ = found.low >= -narrow && found.high <= narrow;
         isLimited_ = !(area_.Holds(found.low) && area_.Holds(found.high));

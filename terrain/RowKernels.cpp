@@ -8,6 +8,18 @@
 
 namespace quillbrand {
 
+namespace {
+
+/// Plain pointers that say that the table is none of the cells: of spans the compiler would not
+/// know, and look up one by one.
+QB_VECTOR_CLONES void LookUp(std::int32_t* __restrict cells, std::ptrdiff_t count,
+                             std::int32_t lowest, const std::int32_t* __restrict images) {
+    for (std::ptrdiff_t i = 0; i < count; ++i)
+        cells[i] = images[cells[i] - lowest];
+}
+
+}  // namespace
+
 QB_VECTOR_CLONES void FindExtremes(std::span<const std::int32_t> cells, Extremes& found) {
     std::int32_t low = found.low;
     std::int32_t high = found.high;
@@ -55,15 +67,12 @@ QB_VECTOR_CLONES bool AddCells(std::span<std::int32_t> cells, std::span<const st
     return wrapped >> 31 == 0;
 }
 
-QB_VECTOR_CLONES void MapHeights(std::span<std::int32_t> cells, std::int32_t lowest,
-                                 std::span<const std::int32_t> images) {
-    std::int32_t* const __restrict heights = cells.data();
-    const std::int32_t* const __restrict table = images.data();
-    const auto count = static_cast<std::ptrdiff_t>(cells.size());
-    for (std::ptrdiff_t i = 0; i < count; ++i) {
-        assert(static_cast<std::size_t>(std::int64_t{heights[i]} - lowest) < images.size());
-        heights[i] = table[heights[i] - lowest];
-    }
+void MapHeights(std::span<std::int32_t> cells, std::int32_t lowest,
+                std::span<const std::int32_t> images) {
+    assert(std::ranges::all_of(cells, [&](std::int32_t cell) {
+        return static_cast<std::size_t>(std::int64_t{cell} - lowest) < images.size();
+    }));
+    LookUp(cells.data(), static_cast<std::ptrdiff_t>(cells.size()), lowest, images.data());
 }
 
 QB_VECTOR_CLONES bool NarrowCells(std::span<const std::int32_t> cells,
