@@ -73,5 +73,7 @@ std::vector<Command> EffectCommandTable();
 std::vector<Command> ElevatorCommandTable();
 std::vector<Command> PrintCommandTable();
 std::vector<Command> HistoryCommandTable();
+std::vector<Command> EditCommandTable();
+std::vector<Command> ViewCommandTable();
 
 }  // namespace quillbrand

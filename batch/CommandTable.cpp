@@ -19,9 +19,9 @@ void AddReplace(Command& command) {
 const std::vector<Command>& AllCommands() {
     static const std::vector<Command> table = [] {
         std::vector<Command> all;
-        for (auto make :
-             {TerrainCommandTable, FileCommandTable, HistoryCommandTable, GeneratorCommandTable,
-              EffectCommandTable, ElevatorCommandTable, PrintCommandTable}) {
+        for (auto make : {TerrainCommandTable, FileCommandTable, HistoryCommandTable,
+                          GeneratorCommandTable, EffectCommandTable, ElevatorCommandTable,
+                          EditCommandTable, ViewCommandTable, PrintCommandTable}) {
             std::vector<Command> part = make();
             std::move(part.begin(), part.end(), std::back_inserter(all));
         }

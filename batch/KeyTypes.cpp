@@ -14,6 +14,8 @@ namespace quillbrand {
 
 namespace {
 
+constexpr double mostSingle = std::numeric_limits<float>::max();
+
 template <typename Parsed>
 std::optional<Parsed> ReadAll(std::string_view text) {
     if (text.starts_with("+") && !text.starts_with("+-"))
@@ -52,13 +54,14 @@ std::optional<Value> ReadYesNo(const std::string& text) {
     return std::nullopt;
 }
 
-/// The numbers of a text with commas between them; nothing where one is none or missing.
+/// The numbers of a text with commas between them; nothing where one is missing, is none, or does
+/// not fit a single, in which the mouse tells places.
 std::optional<std::vector<double>> ReadNumbers(std::string_view text) {
     std::vector<double> numbers;
     for (;;) {
         const auto comma = text.find(',');
         const auto number = ReadNumber(text.substr(0, comma));
-        if (!number)
+        if (!number || std::abs(*number) > mostSingle)
             return std::nullopt;
         numbers.push_back(*number);
         if (comma == std::string_view::npos)
@@ -138,8 +141,7 @@ KeyType WholeNumber(int low, int high) {
 }
 
 KeyType Number() {
-    constexpr double most = std::numeric_limits<float>::max();
-    return {"a number that a single float can hold", Number(-most, most).read};
+    return {"a number that a single float can hold", Number(-mostSingle, mostSingle).read};
 }
 
 KeyType Number(double low, double high) {

@@ -120,7 +120,8 @@ void StepTo(clsTerrain& terrain, const ResizeRequest& request, Host& host) {
     const bool adjusts =
         host.Ask({.text = "Adjust the point spacing to keep the real-world size as before?",
                   .title = "Resize terrain",
-                  .buttons = Buttons::YesNo}) == Answer::Yes;
+                  .buttons = Buttons::YesNo,
+                  .id = QuestionId::Adjust}) == Answer::Yes;
     for (int step = 0; step < mostSteps && terrain.Size() != request.size; ++step) {
         const bool halves = request.size < terrain.Size();
         if (halves)

@@ -13,6 +13,7 @@
 //   absent           names that must not exist afterwards, one a line
 //   kept             names out of `files` that must be untouched
 //   same, differ     names in lines, whose files must have the same content, or any two another
+//   pictures         names of pictures, each with its width and height
 //   limit            the largest size of a file that the program may write, in bytes
 //   terminal         when it exists, standard error is a terminal
 //   twice            when it exists, doing it all again must leave the same files
@@ -25,6 +26,7 @@
 #include <iterator>
 #include <sstream>
 
+#include "base/Picture.h"
 #include "tests/batch/Program.h"
 
 namespace quillbrand {
@@ -143,6 +145,12 @@ TEST_P(Cases, DoWhatTheirFilesSay) {
     ExpectText(program.Errors(), description, "stderr");
     ExpectContents(program, description);
     ExpectLikeness(program, description);
+    for (const std::string& line : Lines(description / "pictures")) {
+        const Picture picture = Picture::Load(program / Words(line).at(0));
+        const std::string sides =
+            std::to_string(picture.Width()) + " " + std::to_string(picture.Height());
+        EXPECT_EQ(Words(line).at(0) + " " + sides, line);
+    }
 
     const auto files = program.Files();
     for (const auto& [name, content] : files)
