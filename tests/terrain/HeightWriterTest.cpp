@@ -32,34 +32,20 @@ TEST(GridRect, IsCutHoweverFarOutItsEndsAre) {
     EXPECT_EQ(GridRect::Cut(0, -far - 1, 9, -far, grid), GridRect());
     const GridRect part{3, 4, 12, 4};
     EXPECT_EQ(part.CutTo(grid), (GridRect{3, 4, 9, 4}));
-    EXPECT_EQ(part.CutTo(grid).Columns(), 7);
-    EXPECT_EQ(part.CutTo(grid).Rows(), 1);
     EXPECT_FALSE(grid.Contains(part));
-    EXPECT_TRUE(grid.Contains(part.CutTo(grid)));
-    EXPECT_TRUE(part.CutTo(grid).Contains(9, 4));
     EXPECT_FALSE(part.Contains(9, 5));
     EXPECT_TRUE(part.Contains(GridRect{5, 5, 2, 9})) << "it is empty";
     EXPECT_EQ((GridRect{5, 5, 2, 9}).Columns(), 0);
 }
 
-TEST(Measure, FindsTheExtremesOfARectangleAndNoneOfAnEmptyOne) {
-    RandomSource chance(4);
-    for (int turn = 0; turn < 200; ++turn) {
-        const clsTerrain terrain = RandomGrid(1 + turn % 20, -1000, 1000, chance);
-        const GridRect rect = AnyRect(terrain, chance);
-        Extremes expected;
-        ForEachCell(rect, [&](int x, int y) { expected.Widen(terrain.GetPoint(x, y)); });
-        ASSERT_EQ(terrain.Measure(rect), expected) << turn;
-        ASSERT_EQ(terrain.Measure(rect).IsEmpty(), rect.IsEmpty());
-    }
-}
+constexpr Height noHeight = 99999;  ///< lies in no grid
 
 /// A pass that stores `height(x, y)` in every cell of a rectangle, in one of the ways of a writer,
 /// or in every second cell.
 template <typename HeightAt>
 void Store(clsTerrain& terrain, const GridRect& rect, int way, HeightAt height) {
     const std::ptrdiff_t length = rect.Rows() + way;
-    std::vector<Height> columns(static_cast<std::size_t>(rect.Columns() * length), 99999);
+    std::vector<Height> columns(static_cast<std::size_t>(rect.Columns() * length), noHeight);
     HeightWriter writer(terrain, rect);
     for (int y = rect.y0; y <= rect.y1; ++y) {
         if (way == 0) {
@@ -110,7 +96,7 @@ TEST(HeightWriter, TurnsRowsIntoColumnsOfAnyLengthAndBack) {
         const clsTerrain terrain = RandomGrid(1 + turn % 70, -30000, 30000, chance);
         const GridRect rect = AnyRect(terrain, chance);
         const std::ptrdiff_t length = rect.Rows() + turn % 5;
-        std::vector<Height> columns(static_cast<std::size_t>(rect.Columns() * length), 7);
+        std::vector<Height> columns(static_cast<std::size_t>(rect.Columns() * length), noHeight);
         terrain.LoadColumns(rect, columns, length);
         std::size_t strange = 0;
         ForEachCell(rect, [&](int x, int y) {
@@ -118,6 +104,11 @@ TEST(HeightWriter, TurnsRowsIntoColumnsOfAnyLengthAndBack) {
             strange += columns[place] != terrain.GetPoint(x, y) ? 1 : 0;
         });
         ASSERT_EQ(strange, 0u) << turn;
+        Extremes extremes;
+        for (const Height height : columns)
+            if (height != noHeight)
+                extremes.Widen(height);
+        ASSERT_EQ(terrain.Measure(rect), extremes) << turn;
         clsTerrain other = RandomGrid(terrain.XPoints(), 50000, 60000, chance);
         clsTerrain expected = other;
         ForEachCell(rect, [&](int x, int y) { expected.SetPoint(x, y, terrain.GetPoint(x, y)); });
