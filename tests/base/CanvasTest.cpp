@@ -127,18 +127,6 @@ TEST(Canvas, IncludesTheEndsOfLinesOfEveryWidth) {
     EXPECT_EQ(line(3, 2, 2, 2, 2), "..... ..... .###. ..... .....");
 }
 
-TEST(Canvas, DrawsAPointAsADiscAroundItsPixel) {
-    const auto point = [](int width) {
-        return Drawn(5, [=](Canvas& c) {
-            c.DrawWidth(width);
-            c.Point(2.9, 2);
-        });
-    };
-    EXPECT_EQ(point(1), "..... ..... ..#.. ..... .....");
-    EXPECT_EQ(point(2), "..... .##.. .##.. ..... .....");
-    EXPECT_EQ(point(5), ".###. ##### ##### ##### .###.");
-}
-
 TEST(Canvas, DrawsCirclesAndBoxesAroundTheirFilling) {
     const auto filled = [](auto shape) {
         return Drawn(7, [=](Canvas& c) {
@@ -156,24 +144,6 @@ TEST(Canvas, DrawsCirclesAndBoxesAroundTheirFilling) {
               "....... ....... ..###.. ..###.. ..###.. ..###.. .......");
     EXPECT_EQ(filled([](Canvas& c) { c.Circle(3, 3, 0); }),
               "....... ....... ....... ...#... ....... ....... .......");
-}
-
-TEST(Canvas, RestoresThePictureWhenTheSameIsDrawnTwice) {
-    RandomSource chance(2);
-    const Picture before = RandomPicture(40, 40, chance);
-    for (const DrawMode mode : {DrawMode::Invert, DrawMode::NotXor}) {
-        Picture picture = before;
-        Canvas canvas(picture);
-        canvas.Mode(mode);
-        canvas.Fill(FillStyle::Solid);
-        canvas.DrawWidth(5);
-        const QPointF star[] = {{2, 30}, {37, 25}, {5, 12}, {30, 39}, {20, 2}};
-        for (int i = 0; i < 2; ++i) {
-            canvas.Circle(20, 20, 12, 0x4080ff);
-            canvas.Polygon(star, 0x010203);
-            EXPECT_EQ(picture.Image() == before.Image(), i == 1);
-        }
-    }
 }
 
 TEST(Canvas, PutsWholeUnitsOnTheirOwnPixels) {

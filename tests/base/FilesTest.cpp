@@ -71,13 +71,6 @@ TEST(OverwriteFile, KeepsTheTailOfALongerOldFile) {
     EXPECT_EQ(TextOf(folder / "b"), "xxx");
 }
 
-TEST(ReadFile, ReadsNoMoreThanAskedFor) {
-    const TemporaryFolder folder;
-    WriteText(folder / "a", "123456");
-    EXPECT_EQ(ReadFile(folder / "a", 4).size(), 4u);
-    EXPECT_EQ(ReadFile(folder / "a", 100).size(), 6u);
-}
-
 TEST(FindInFolder, TakesTheOtherSystemsSeparatorAndAnyCase) {
     const TemporaryFolder folder;
     fs::create_directory(folder / "Sub");

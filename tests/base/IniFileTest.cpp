@@ -88,10 +88,5 @@ TEST(IniFile, RefusesALineBreakAFolderAndAFileTooLargeToKeepButNotAMissingOne) {
     EXPECT_EQ(IniFile::Read(folder / "none.ini").Get("a", "b"), "");
 }
 
-TEST(TrimIni, CutsAtTheFirstNulAndTrimsBlanks) {
-    EXPECT_EQ(TrimIni(std::string("  a b  \0 c", 10)), "a b");
-    EXPECT_EQ(TrimIni("   "), "");
-}
-
 }  // namespace
 }  // namespace quillbrand

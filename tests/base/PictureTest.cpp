@@ -195,13 +195,5 @@ TEST(Picture, ShowsBlackWhereAFileIsTransparent) {
     }
 }
 
-TEST(Picture, NamesAFileThatIsNone) {
-    const TemporaryFolder folder;
-    WriteText(folder / "a.png", "no picture at all");
-    EXPECT_EQ(FaultOf([&] { Picture::Load(folder / "a.png"); }),
-              (folder / "a.png").string() +
-                  " is no picture that can be read (BMP, DIB, JPEG, GIF, ICO, PNG)");
-}
-
 }  // namespace
 }  // namespace quillbrand

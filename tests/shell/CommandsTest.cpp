@@ -177,22 +177,5 @@ TEST_F(Commands, GeneratorUsesTheModeBeforeAddTakesItsPlace) {
     EXPECT_FALSE(document.TerrainEmpty);
 }
 
-TEST_F(Commands, GeneratorFileGivesAndTakesEveryValue) {
-    const std::string text =
-        "[Generator]\nPerlin= 1\nIteration= 7\nHeight= 55\nStructure= 4\n"
-        "RNDSeed=4711\nmodify= 5\nhighres= 1\nrougness= 9\n";
-    tools.PerlinSets.rows.push_back(tools.PerlinSets.rows[0]);
-    WriteText(folder / "in.par", text);
-    GeneratorSettings loaded = LoadGenerator(tools, folder / "in.par", 0);
-    EXPECT_EQ(tools.RandomSeedValue, 4711);
-    EXPECT_EQ(tools.ModifyMode, ModifyModes::highest);
-    loaded.seed.clear();
-    SaveGenerator(tools, folder / "out.par", loaded);
-    EXPECT_EQ(TextOf(folder / "out.par"), text);
-    WriteText(folder / "far.par", "[Generator]\nRndSeed=1e10\n");
-    EXPECT_EQ(LoadGenerator(tools, folder / "far.par", 0).seed, "1e10");
-    EXPECT_EQ(tools.RandomSeedValue, 2147483647);
-}
-
 }  // namespace
 }  // namespace quillbrand

@@ -82,16 +82,6 @@ TEST_F(PrintedPage, HasThePictureBelowTheLinesAndASmallerLineOnTheFirstCopy) {
     EXPECT_NEAR(first * 12 / 8, WordBox(path, 1, "Note").height(), 0.1);
 }
 
-TEST_F(PrintedPage, PrintsOnlyWhatIsTicked) {
-    EXPECT_EQ(PdfText(Pdf({.terrain = false})), lines);
-    EXPECT_TRUE(PdfPictures(Pdf({.terrain = false})).empty());
-    picture = picture.convertToFormat(QImage::Format_RGB32);
-    picture.setPixelColor(1, 2, QColor(1, 2, 3));
-    EXPECT_EQ(PdfText(Pdf({.settings = false})), "");
-    EXPECT_TRUE(PdfPictures(Pdf({.settings = false})) == std::vector<QImage>{picture});
-    EXPECT_TRUE(PrintedPdf(document, picture, {.copies = 0}).empty());
-}
-
 TEST_F(PrintedPage, MakesAJobOfEachCopyAndFitsLowPaperWithMargins) {
     document.CurrentFile = "/" + std::string(200, 'w') + "/a long path";
     int count = 1;

@@ -131,53 +131,22 @@ TEST_F(ElevatorWindow, AddsSavesAndFetchesSets) {
     EXPECT_EQ(TextOf(folder_ / "Elevator.dat").substr(0, 20), "H\xfcgel" + std::string(15, ' '));
     EXPECT_EQ(Contents(folder_ / "Elevator.dat").size(), 2 * 277);
 
-    const ElevatorGrid drawn = grid();
     ClickIn("cmdReset");
     EXPECT_TRUE(grid() == StraightLine());
     EXPECT_EQ(BlackRows(30), QList<int>{226});
     ClickSet(1);
     EXPECT_EQ(session_.tools.elevator.ElevatorSetIndex, 1);
     EXPECT_EQ(grid().FirstMark(30), 200);
-    EXPECT_EQ(drawn.FirstMark(30), 200);
     Draw({31, 201}, {{31, 190}});
     ClickIn("cmdElevatorSave");
     ClickIn("cmdReset");
     ClickSet(1);
     EXPECT_EQ(grid().FirstMark(31), 190) << "a click on the chosen set fetches it again";
-    QTest::keyClick(list_, Qt::Key_Down);
-    EXPECT_EQ(session_.tools.elevator.ElevatorSetIndex, 2);
-    EXPECT_EQ(grid().FirstMark(31), 225);
 
     Open();
     ASSERT_EQ(list_->count(), 3);
-    EXPECT_EQ(list_->currentRow(), 2);
+    EXPECT_EQ(list_->currentRow(), 1);
     EXPECT_EQ(list_->item(1)->text(), QString::fromUtf8("Hügel").leftJustified(20));
-}
-
-TEST_F(ElevatorWindow, TellsWhatCannotBeDoneAndStays) {
-    Open();
-    QTest::mouseClick(list_->viewport(), Qt::LeftButton, Qt::ControlModifier,
-                      list_->visualItemRect(list_->item(0)).center());
-    session_.tools.elevator.ElevatorSetFile = folder_ / "nowhere" / "sets";
-    ModalUser user({Press("OK"), AnswerName("Hill"), Press("OK")});
-    ClickIn("cmdElevatorSave");
-    ClickIn("cmdAddElevatorSet");
-    ASSERT_EQ(user.seen.size(), 2);
-    EXPECT_EQ(user.seen[0], "Elevator shift: No set is chosen");
-    EXPECT_TRUE(user.seen[1].contains("nowhere")) << user.seen[1].toStdString();
-    EXPECT_EQ(list_->count(), 1);
-    EXPECT_TRUE(elevator_->isVisible());
-}
-
-TEST_F(ElevatorWindow, ComesBackToTheChosenSetWhenAnotherHasGone) {
-    QBTools2::SaveElevatorSet(session_.tools.elevator, 1, "one");
-    Open();
-    std::filesystem::remove(folder_ / "Elevator.dat");
-    ModalUser user({Press("OK")});
-    QTest::keyClick(list_, Qt::Key_Down);
-    EXPECT_TRUE(user.IsDone());
-    EXPECT_EQ(list_->currentRow(), 0);
-    EXPECT_TRUE(grid() == StraightLine());
 }
 
 TEST_F(ElevatorWindow, ArmsByOkAndByNothingElse) {

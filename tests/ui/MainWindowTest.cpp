@@ -104,11 +104,20 @@ TEST_F(MainWindow, AsksAtTheExitAndFollowsEachAnswer) {
     EXPECT_TRUE(window_->close());
 }
 
-TEST_F(MainWindow, ExitsWithoutAQuestionAfterASaveAndRemovesTheBackup) {
+TEST_F(MainWindow, ComesBackToABackupAndRemovesItAtAnExitWithoutAQuestion) {
     ASSERT_TRUE(StartWindow());
     Produce("333");
+    const auto before = Heights();
+    EXPECT_FALSE(ToolIsEnabled("Restore"));
     ClickTool("Backup");
     EXPECT_TRUE(std::filesystem::exists(folder_ / "Backup.qbt"));
+    {
+        ModalUser user({Press("Yes")});
+        ClickTool("Löschen");
+    }
+    EXPECT_NE(Heights(), before);
+    ClickTool("Restore");
+    EXPECT_EQ(Heights(), before);
     {
         ModalUser user({Press("TerraGen-File [.TER]"), ChoosePath(folder_ / "x.ter")});
         ClickTool("Speichern");
@@ -172,24 +181,6 @@ TEST_F(MainWindow, OpensAFileNamedAtTheStartAndOneThatIsDropped) {
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window_.get(), &drop);
     EXPECT_TRUE(QTest::qWaitFor([&] { return TextOf(session_.document.CurrentTerrain) == saved; }));
-}
-
-TEST_F(MainWindow, TakesABackupAndComesBackToIt) {
-    ASSERT_TRUE(StartWindow());
-    Produce("666");
-    const auto before = Heights();
-    EXPECT_FALSE(ToolIsEnabled("Restore"));
-    ClickTool("Backup");
-    EXPECT_TRUE(ToolIsEnabled("Restore"));
-    {
-        ModalUser user({Press("Yes")});
-        ClickTool("Löschen");
-        EXPECT_EQ(user.seen, QStringList("Terrain clear: Terrain clear ?  Are you sure ?"));
-    }
-    EXPECT_TRUE(session_.document.TerrainEmpty);
-    EXPECT_NE(Heights(), before);
-    ClickTool("Restore");
-    EXPECT_EQ(Heights(), before);
 }
 
 TEST_F(MainWindow, BeatsItsHeartByTheBusyFlag) {
@@ -388,17 +379,6 @@ TEST_F(MainWindow, StoresAndLoadsTheGeneratorsSettings) {
     EXPECT_TRUE(Find<QCheckBox>("chkHighResolution")->isChecked());
     EXPECT_EQ(seed->text(), "98765");
     EXPECT_EQ(session_.tools.RandomSeedValue, 98765);
-}
-
-TEST_F(MainWindow, FollowsTheMouseInTheStatusBar) {
-    ASSERT_TRUE(StartWindow());
-    Produce("999");
-    ClickTool("Zoom100");
-    auto* picture = Find<PictureBox>("Picture1");
-    QTest::mouseMove(picture, QPoint(100, 50));
-    const double x = 100 * 256.0 / picture->width();
-    EXPECT_EQ(Find<QLabel>("sBarPanel4")->text(), QString("X=%1").arg(qRound(x)));
-    EXPECT_TRUE(Find<QLabel>("sBarPanel6")->text().endsWith(" m"));
 }
 
 }  // namespace

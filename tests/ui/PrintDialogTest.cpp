@@ -68,20 +68,5 @@ TEST_F(PrintDialog, PrintsAndShowsWhatIsTickedOnceForEachCopy) {
     EXPECT_FALSE(WordBox(pdf_, 2, "Note").isEmpty());
 }
 
-TEST_F(PrintDialog, StaysOpenWhenThePageCannotBePrinted) {
-    dlgPrint dialog(*window_, {});
-    dialog.show();
-    for (const char* file : {"/proc/page.pdf", ""}) {
-        dialog.Printer().setOutputFormat(QPrinter::PdfFormat);
-        dialog.Printer().setOutputFileName(file);
-        dialog.Printer().setOutputFormat(QPrinter::PdfFormat);
-        ModalUser user({Press("OK")});
-        Press("Print")(&dialog);
-        ASSERT_EQ(user.seen.size(), 1);
-        EXPECT_TRUE(user.seen[0].contains(*file != 0 ? file : "there is no printer"));
-        EXPECT_TRUE(dialog.isVisible());
-    }
-}
-
 }  // namespace
 }  // namespace quillbrand
