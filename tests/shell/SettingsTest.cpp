@@ -84,9 +84,29 @@ TEST_F(StoredSettings, ChangeTheirLinesOnlyAndComeBackAtTheNextStart) {
     SaveOptions(session.settings, options);
     EXPECT_EQ(TextOf(ini), lines + "\r\n[History]\r\nMegabytes= 9\r\n");
     const Settings next = Started(TextOf(ini)).settings;
-    EXPECT_EQ(next.BackColor, 0xff8000);
-    EXPECT_EQ(next.historyMegabytes, 9);
-    EXPECT_EQ(next.TerrainDirectory.string() + next.ObjectDirectory.string(), "/a b/o");
+    for (const Settings& settings : {session.settings, next}) {
+        EXPECT_EQ(settings.ResizeMode, 2);
+        EXPECT_EQ(settings.PaletteRow, 5);
+        EXPECT_EQ(settings.BackColor, 0xff8000);
+        EXPECT_EQ(settings.historyMegabytes, 9);
+    }
+    EXPECT_EQ(next.TerrainDirectory, "/a b");
+    EXPECT_EQ(next.ObjectDirectory, "/o");
+}
+
+TEST_F(StoredSettings, StayAsTheyWereWhenTheyCannotBeStored) {
+    Settings stored;
+    stored.IniPath = ini;
+    EXPECT_EQ(WriteFolder(stored, "Terragen", "'/a b;'"), "'/a b;'");
+    EXPECT_EQ(vbConfig::ReadIni(stored, "TERRAGEN", "Directory"), "'/a b;'");
+    const std::string before = TextOf(ini);
+    EXPECT_THROW(WriteFolder(stored, "Terragen", "/a\n[Start]"), Fault);
+    EXPECT_THROW(WriteFolder(stored, "Terragen", std::string(512, 'x')), Fault);
+    EXPECT_EQ(TextOf(ini), before);
+    stored.IniPath = folder / "nowhere/Quillbrand.ini";
+    EXPECT_THROW(SaveOptions(stored, {.ResizeMode = 1, .PaletteRow = 3, .BackColor = 7}), Fault);
+    EXPECT_EQ(stored.ResizeMode + stored.PaletteRow, 0);
+    EXPECT_FALSE(stored.BackColor.has_value());
 }
 
 }  // namespace
