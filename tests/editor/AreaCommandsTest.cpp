@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
+#include <limits>
 
 #include "tests/support/EditingTwins.h"
 #include "tests/support/Faults.h"
@@ -30,9 +30,15 @@ class AreaCommandsTest : public ::testing::Test {
     bool TerrainEmpty_ = true;
 };
 
-TEST(Frame, HasItsSidesInOrderAtLeastOneApartAndMovesByWholePairs) {
+TEST(Frame, HasItsSidesInOrderAndAtLeastOneApart) {
     const auto [left, top, right, bottom] = Converted({7, 2.5f, 3, 2.5f});
-    EXPECT_EQ((std::array{left, top, right, bottom}), (std::array{3.f, 2.5f, 7.f, 3.5f}));
+    EXPECT_EQ(left, 3);
+    EXPECT_EQ(right, 7);
+    EXPECT_EQ(top, 2.5f);
+    EXPECT_EQ(bottom, 3.5f);
+}
+
+TEST(Frame, MovesItsCornerUpFromOddAndBrokenPlaces) {
     const std::pair<float, float> cases[] = {{4, 4}, {5, 6}, {5.5f, 6.5f}, {-3, -2}, {0, 0}};
     for (const auto& [mouse, corner] : cases)
         EXPECT_EQ(MovingCorner(mouse), corner) << mouse;
@@ -60,6 +66,14 @@ TEST_F(AreaCommandsTest, AgreeWithTheSlowTwinsForFramesAnywhere) {
     }
 }
 
+TEST_F(AreaCommandsTest, FillTwoByTwoPointsAfterAClick) {
+    clsTerrain terrain = GridFrom("7 7 7 7 / 7 7 7 7 / 7 7 7 7 / 7 7 7 7");
+    FillArea(terrain, {1, 1, 1, 1}, 32768, TerrainEmpty_, host_);
+    EXPECT_EQ(TextOf(terrain), "7 7 7 7 / 7 0 0 7 / 7 0 0 7 / 7 7 7 7");
+    FillArea(terrain, {0.5f, 3, 2.5f, 3.4f}, 32769, TerrainEmpty_, host_);
+    EXPECT_EQ(TextOf(terrain), "7 7 7 7 / 7 0 0 7 / 7 0 0 7 / 1 7 1 7") << "halves go to even";
+}
+
 TEST_F(AreaCommandsTest, TellTheirTextsAndAPercentThatCountsFromTheLeftOfTheGrid) {
     clsTerrain terrain;
     FillArea(terrain, {100, 0, 104, 90}, 1, TerrainEmpty_, host_);
@@ -80,17 +94,24 @@ TEST_F(AreaCommandsTest, CutFarFramesToTheGrid) {
     EXPECT_EQ(std::ranges::count(AllCells(terrain), -32767), 259 * 259);
     const auto filled = AllCells(terrain);
     for (const Frame& frame : {Frame{far, far, far, far}, Frame{-far, 0, -1, 200},
-                               Frame{300, 300, 3e38f, 3e38f}, Frame{-3e38f, 0, -3e38f, 0}})
+                               Frame{300, 300, 3e38f, 3e38f}, Frame{-3e38f, 0, -3e38f, 0}}) {
         FillArea(terrain, frame, 5, TerrainEmpty_, host_);
+        RaiseArea(terrain, frame, 30, TerrainEmpty_, host_);
+    }
     EXPECT_EQ(AllCells(terrain), filled);
     RaiseArea(terrain, {-far, -far, far, far}, 30, TerrainEmpty_, host_);
     EXPECT_EQ(terrain.GetPoint(128, 128), -32767 + 27000) << "near the middle of so wide a hill";
 }
 
 TEST_F(AreaCommandsTest, FaultWhereAHeightLeaves32Bits) {
-    clsTerrain terrain;
+    RandomSource chance(3);
+    clsTerrain terrain = RandomGrid(21, -30000, 30000, chance);
     terrain.SetPoint(0, 0, INT32_MAX);
-    RaiseArea(terrain, {0, 0, 20, 20}, 30, TerrainEmpty_, host_);  // flat at its corner
+    clsTerrain before = terrain;
+    RaiseArea(terrain, {0, 0, 20, 20}, 30, TerrainEmpty_, host_);
+    SlowTwins::RaiseArea(before, {0, 0, 20, 20}, 30, 1);
+    EXPECT_TRUE(SameGrid(terrain, before)) << "the corner of the hill is flat";
+
     terrain.SetPoint(10, 10, INT32_MAX - 26999);
     EXPECT_NE(FaultOf([&] {
                   RaiseArea(terrain, {0, 0, 20, 20}, 30, TerrainEmpty_, host_);
@@ -102,8 +123,7 @@ TEST_F(AreaCommandsTest, ReflectRectanglesThatMayTakeInTheMargin) {
     for (int turn = 0; turn < 200; ++turn) {
         RandomSource chance(static_cast<std::uint32_t>(turn));
         clsTerrain fast = RandomGrid(AnyOf(1, 30, chance), -30000, 30000, chance);
-        clsTerrain slow = fast;
-        const auto [least, greatest] = std::pair(fast.min(), fast.max());
+        const clsTerrain before = fast;
         const int last = fast.Size() + 2;
         const int x1 = AnyOf(0, last - 1, chance);
         const int y1 = AnyOf(0, last - 1, chance);
@@ -111,24 +131,30 @@ TEST_F(AreaCommandsTest, ReflectRectanglesThatMayTakeInTheMargin) {
         const int y2 = AnyOf(y1 + 1, last, chance);
         const Frame frame{static_cast<float>(x2 + 0.25), static_cast<float>(y1 - 0.25),
                           static_cast<float>(x1), static_cast<float>(y2)};
-        const auto way = turn % 2 == 0 ? Reflection::Horizontally : Reflection::Vertically;
-        for (int x = x1; x <= x2; ++x)
-            for (int y = y1; y <= y2; ++y)
-                slow.SetPoint(x, y,
-                              turn % 2 == 0 ? fast.GetPoint(x, y2 - (y - y1))
-                                            : fast.GetPoint(x2 - (x - x1), y));
-        ReflectArea(fast, frame, way, TerrainEmpty_, host_);
+        const bool horizontally = turn % 2 == 0;
+        ReflectArea(fast, frame, horizontally ? Reflection::Horizontally : Reflection::Vertically,
+                    TerrainEmpty_, host_);
+        clsTerrain slow = before;
+        SlowTwins::Reflect(slow, x1, y1, x2, y2, horizontally);
         ASSERT_EQ(AllCells(fast), AllCells(slow)) << "turn " << turn;
-        ASSERT_EQ(fast.min() + fast.max(), least + greatest);
-        ASSERT_FALSE(std::exchange(TerrainEmpty_, true));
-        for (const float beyond : {-0.6f, static_cast<float>(last) + 0.6f, 3e9f})
-            ASSERT_NE(FaultOf([&] {
-                          ReflectArea(fast, {0, 0, 1, beyond}, way, TerrainEmpty_, host_);
-                      }).find("reaches beyond the grid, whose points are 0 to "),
-                      std::string::npos);
-        ASSERT_EQ(AllCells(fast), AllCells(slow));
-        ASSERT_TRUE(TerrainEmpty_);
+        ASSERT_TRUE(fast.min() == before.min() && fast.max() == before.max());
     }
+    EXPECT_FALSE(TerrainEmpty_);
+}
+
+TEST_F(AreaCommandsTest, RefuseToReflectBeyondTheMargin) {
+    RandomSource chance(3);
+    clsTerrain terrain = RandomGrid(9, -30000, 30000, chance);
+    const auto before = AllCells(terrain);
+    for (const Frame& frame : {Frame{-0.6f, 0, 4, 4}, Frame{0, 4, 4, 10.6f}, Frame{0, 3e9f, 4, 2}})
+        EXPECT_NE(FaultOf([&] {
+                      ReflectArea(terrain, frame, Reflection::Vertically, TerrainEmpty_, host_);
+                  }).find("reaches beyond the grid, whose points are 0 to 10"),
+                  std::string::npos);
+    EXPECT_EQ(AllCells(terrain), before);
+    EXPECT_TRUE(TerrainEmpty_);
+    ReflectArea(terrain, {-0.5f, 0, 10.5f, 10}, Reflection::Vertically, TerrainEmpty_, host_);
+    EXPECT_NE(AllCells(terrain), before);
 }
 
 }  // namespace

@@ -74,9 +74,9 @@ TEST_F(Association, OpensTerrainsWhateverThePathsHoldAndKeepsTheOtherDefaults) {
 
 TEST_F(Association, PutsBackWhatItWroteWhenAToolFails) {
     const QByteArray path = qgetenv("PATH");
-    const auto fails = [&](const std::string& toolName) {
+    const auto fails = [&](const std::string& toolName, const std::string& deed) {
         const fs::path tool = folder / toolName;
-        WriteText(tool, "#!/bin/sh\necho no room\nexit 1\n");
+        WriteText(tool, "#!/bin/sh\n" + deed + "\necho no room\nexit 1\n");
         fs::permissions(tool, fs::perms::owner_all);
         setenv("PATH", folder.Path().c_str(), 1);
         EXPECT_FALSE(Register(program));
@@ -84,12 +84,16 @@ TEST_F(Association, PutsBackWhatItWroteWhenAToolFails) {
         fs::remove(tool);
         EXPECT_EQ(reason, toolName + " failed: no room");
     };
-    fails("update-desktop-database");
+    fails("update-desktop-database", "");
     EXPECT_FALSE(Register("/a=b"));
     EXPECT_EQ(folder.Entries(), 0);
+    fails("update-mime-database", "/bin/ls \"$1/packages\" >\"$1/listed\"");
+    EXPECT_EQ(TextOf(data / "mime/listed"), "") << "it has listed what was there for a moment";
+    EXPECT_FALSE(fs::exists(data / "mime/packages"));
+
     fs::create_directories(entry.parent_path());
     WriteText(entry, "before");
-    fails("update-desktop-database");
+    fails("update-desktop-database", "");
     EXPECT_EQ(TextOf(entry), "before");
     EXPECT_FALSE(fs::exists(config));
 }

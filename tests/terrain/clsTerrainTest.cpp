@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 #include "base/Fault.h"
 #include "tests/support/Grids.h"
 #include "tests/support/SlowTwins.h"
@@ -15,10 +13,13 @@ TEST(clsTerrain, BeginsWithItsDefaults) {
     clsTerrain terrain;
     EXPECT_EQ(HeaderText(terrain),
               "XPoints 257 ScaleT 30 CRAD 6370 CRVM 0 HeightScale 30 BaseHeight 5");
-    EXPECT_EQ((std::pair(terrain.min(), terrain.max())), (std::pair(65535, -63366)));
-    EXPECT_EQ((std::pair(terrain.MinTU(), terrain.MaxTU())), (std::pair(-10, 20)));
+    EXPECT_EQ(terrain.min(), 65535);
+    EXPECT_EQ(terrain.max(), -63366);
+    EXPECT_EQ(terrain.MinTU(), -10);
+    EXPECT_EQ(terrain.MaxTU(), 20);
     terrain.Init(3);
-    EXPECT_EQ((std::pair(terrain.min(), terrain.max())), (std::pair(400000, -400000)));
+    EXPECT_EQ(terrain.min(), 400000);
+    EXPECT_EQ(terrain.max(), -400000);
 }
 
 TEST(clsTerrain, ClampsReadsAndIgnoresWritesOutsideTheMargin) {
@@ -102,6 +103,25 @@ TEST(ScaleTerrain, AgreesWithTheSlowTwinOnRandomGrids) {
     }
 }
 
+TEST(ScaleTerrain, KeepsAltitudesWhereTheWindowAllows) {
+    clsTerrain terrain = GridFrom("-1000 1000 / 0 500");
+    terrain.HeightScale(6554);
+    terrain.BaseHeight(0);
+    EXPECT_EQ(terrain.ScaleTerrain(), 65502);
+    EXPECT_EQ(terrain.MinTU(), -100);
+    EXPECT_EQ(terrain.MaxTU(), 100);
+    EXPECT_EQ(terrain.min(), -32751);
+}
+
+TEST(ScaleTerrain, LeavesAFlatGridAloneUnlessItLiesOutside16Bits) {
+    clsTerrain terrain = GridFrom("7 7 / 7 7");
+    EXPECT_EQ(terrain.ScaleTerrain(), 0);
+    EXPECT_EQ(TextOf(terrain), "7 7 / 7 7");
+    terrain.Fill(2000000000);
+    EXPECT_EQ(terrain.ScaleTerrain(), 0);
+    EXPECT_LE(terrain.max(), 32767);
+}
+
 TEST(ScaleTerrain, WorksHoweverFarHeightsAndWindowLie) {
     for (const int base : {-32768, 0, 32767}) {
         for (const int scale : {-32768, 1, 32767}) {
@@ -116,6 +136,15 @@ TEST(ScaleTerrain, WorksHoweverFarHeightsAndWindowLie) {
     }
 }
 
+TEST(ScaleTerrain, WithFixHeightKeepsHeightsInsideTheRangeAndTheWindow) {
+    clsTerrain terrain = GridFrom("-1000 1000 0 / 3 4 5 / 6 7 8");
+    terrain.FixHeight(true);
+    const clsTerrain before = terrain;
+    EXPECT_EQ(terrain.ScaleTerrain(), 2000);
+    EXPECT_TRUE(SameGrid(terrain, before));
+    EXPECT_EQ(HeaderText(terrain), HeaderText(before));
+}
+
 TEST(Reflections, MirrorWithinTheirBoundsOnly) {
     clsTerrain terrain = GridFrom("1 2 3 / 4 5 6 / 7 8 9");
     terrain.GetReflectHor(1, 0, 2, 2);
@@ -124,6 +153,24 @@ TEST(Reflections, MirrorWithinTheirBoundsOnly) {
     EXPECT_EQ(TextOf(terrain), "1 8 9 / 6 5 4 / 3 2 7");
     EXPECT_THROW(terrain.GetReflectVer(0, 0, 5, 0), Fault);
     EXPECT_EQ(TextOf(terrain), "1 8 9 / 6 5 4 / 3 2 7");
+}
+
+TEST(Shapes, AreCutAtTheGridAndRoundTheirCentreOnce) {
+    clsTerrain terrain = GridFrom("0 0 0 0 / 0 0 0 0 / 0 0 0 0 / 0 0 0 0");
+    terrain.GetCircle(1.5, 1.4, 1, 5);
+    EXPECT_EQ(TextOf(terrain), "0 0 5 0 / 0 5 5 5 / 0 0 5 0 / 0 0 0 0");
+    terrain.GetSquare(-0.5, 0.5, 1, 8);
+    EXPECT_EQ(TextOf(terrain), "8 8 5 0 / 8 8 5 5 / 0 0 5 0 / 0 0 0 0");
+    terrain.Fill(0);
+    terrain.GetCircle(0, 0, -1, 5);
+    EXPECT_EQ(terrain.Range(), 0);
+    RandomSource chance(3);
+    terrain.GetNoise(1, 1, 3, 9, chance);
+    RandomSource twin(3);
+    for (int i = 0; i < 6; ++i)
+        twin.Uniform();
+    EXPECT_EQ(chance.Uniform(), twin.Uniform());
+    EXPECT_EQ(terrain.max(), 9);
 }
 
 TEST(Shapes, AgreeWithTheSlowTwinsOnRandomGrids) {
@@ -136,12 +183,11 @@ TEST(Shapes, AgreeWithTheSlowTwinsOnRandomGrids) {
         const int r = AnyOf(-1, turn % 3 == 0 ? 40 : 9, chance);
         RandomSource draws(7);
         RandomSource twin(7);
-        const double part = 0.25 * (turn % 3);  // halves go to even
-        fast.GetCircle(x + part, y, r, 100 + turn);
-        SlowTwins::GetCircle(slow, std::llrint(x + part), y, r, 100 + turn);
+        fast.GetCircle(x, y, r, 100 + turn);
+        SlowTwins::GetCircle(slow, x, y, r, 100 + turn);
         ASSERT_TRUE(SameGrid(fast, slow)) << "circle " << x << "," << y << " radius " << r;
-        fast.GetSquare(y, x - part, r, -turn);
-        SlowTwins::GetSquare(slow, y, std::llrint(x - part), r, -turn);
+        fast.GetSquare(y, x, r, -turn);
+        SlowTwins::GetSquare(slow, y, x, r, -turn);
         ASSERT_TRUE(SameGrid(fast, slow)) << "square " << y << "," << x << " radius " << r;
         fast.GetNoise(x, y, r, 1000 + turn, draws);
         SlowTwins::GetNoise(slow, x, y, r, 1000 + turn, twin);
@@ -171,6 +217,19 @@ TEST(Shapes, AreTakenWideWhereverTheirCentreLiesAndHoweverLargeTheyAre) {
     terrain.GetSquare(0, 0, 2147483647, 8);
     EXPECT_EQ(terrain.Measure(terrain.Cells()), (Extremes{8, 8}));
     EXPECT_EQ(terrain.max(), 8);
+}
+
+TEST(TerrainArrays, CopyAllCellsBothWays) {
+    RandomSource chance(9);
+    const clsTerrain terrain = RandomGrid(6, -50, 50, chance);
+    const SquareArray array = terrain.GetTerrain();
+    EXPECT_EQ(array.Upper(), 15);
+    EXPECT_EQ(array(7, 3), terrain.GetPoint(7, 3));
+    EXPECT_EQ(array(8, 3), 0);
+    clsTerrain other;
+    other.Init(6);
+    other.SetTerrain(array);
+    EXPECT_EQ(AllCells(other), AllCells(terrain));
 }
 
 TEST(clsTerrain, KeepsItsGridWhenASizeIsImpossible) {

@@ -155,6 +155,48 @@ TEST_F(PictureBoxes, ShowOverlaysAboveARasterThatStaysAsItIs) {
     EXPECT_EQ(Screen(), bare);
 }
 
+TEST_F(PictureBoxes, ShowTheBackColourWithoutARaster) {
+    Show(50, 50);
+    box_.SetBackColor(Qt::cyan);
+    EXPECT_EQ(ScreenAt(25, 25), QColor(Qt::cyan));
+    EXPECT_EQ(box_.Shown(), Screen());
+}
+
+/// Sums up what a widget is asked to paint.
+class PaintWatch : public QObject {
+  public:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint)
+            for (const QRect& part : static_cast<QPaintEvent*>(event)->region())
+                pixels += part.width() * part.height();
+        return false;
+    }
+
+    int pixels = 0;
+};
+
+TEST_F(PictureBoxes, PaintOnlyWhatChanged) {
+    Show(300, 300);
+    box_.SetUnits(300);
+    box_.SetRaster(RandomPicture(600, 600, chance_));
+    Square square;
+    square.place = QRectF(10, 10, 20, 20);
+    box_.Add(square);
+    Screen();
+    PaintWatch watch;
+    box_.installEventFilter(&watch);
+    square.place = QRectF(250, 250, 20, 20);
+    box_.OverlayChanged(square);
+    QApplication::processEvents();
+    EXPECT_GE(watch.pixels, 2 * 20 * 20);
+    EXPECT_LT(watch.pixels, 2 * 33 * 33);
+    watch.pixels = 0;
+    box_.RasterChanged(QRect(100, 100, 60, 60));
+    QApplication::processEvents();
+    EXPECT_GE(watch.pixels, 30 * 30);
+    EXPECT_LT(watch.pixels, 35 * 35);
+}
+
 /// Writes down what the mouse did.
 class MouseWatch {
   public:
