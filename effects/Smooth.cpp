@@ -88,16 +88,18 @@ QB_VECTOR_CLONES void SmoothWholeColumn(const Neighbourhood& n, const Area& area
 /// The sweeps over the square, strip by strip.
 class Sweep {
   public:
-    Sweep(clsTerrain& terrain, const Area& area, Host& host)
-        : area_(area),
-          extent_(area.extent.value()),
+    Sweep(clsTerrain& terrain, const Area& area, int extent, Host& host)
+        : terrain_(terrain),
+          area_(area),
+          extent_(extent),
           host_(host),
           grid_(terrain.Cells()),
           rect_(area.CutTo(grid_, extent_)),
+          heights_(HeightsAround(terrain)),
+          isNarrow_(heights_.low >= -narrow && heights_.high <= narrow),
+          isLimited_(!(area.Holds(heights_.low) && area.Holds(heights_.high))),
           writer_(terrain, rect_),
-          strip_(terrain, rect_) {
-        MeasureHeights(terrain);
-    }
+          strip_(terrain, rect_) {}
 
     void Run(bool forward) {
         forward_ = forward;
@@ -110,15 +112,13 @@ class Sweep {
 
   private:
     /// The extremes of all heights that a mean can take in; means never leave them.
-    void MeasureHeights(const clsTerrain& terrain) {
-        const Extremes found = terrain.Measure(
+    Extremes HeightsAround(const clsTerrain& terrain) const {
+        return terrain.Measure(
             GridRect::Cut(rect_.x0 - 1, rect_.y0 - 1, rect_.x1 + 1, rect_.y1 + 1, grid_));
-        isNarrow_ = found.low >= -narrow && found.high <= narrow;
-        isLimited_ = !(area_.Holds(found.low) && area_.Holds(found.high));
     }
 
     void RunStrip(int first, int count) {
-        strip_.Load(writer_.Terrain(), first, count);
+        strip_.Load(terrain_, first, count);
         for (int i = 0; i < count; ++i) {
             const int x = forward_ ? first + i : first + count - 1 - i;
             SmoothColumn(x);
@@ -146,14 +146,16 @@ class Sweep {
         host_.Yield();
     }
 
+    const clsTerrain& terrain_;
     const Area& area_;
     int extent_;
-    bool isNarrow_ = false;
-    bool isLimited_ = true;
     bool forward_ = true;
     Host& host_;
     GridRect grid_;
     GridRect rect_;
+    Extremes heights_;
+    bool isNarrow_;
+    bool isLimited_;
     HeightWriter writer_;
     ColumnStrip strip_;
 };
@@ -177,7 +179,7 @@ void FilterSmooth(clsTerrain& terrain, float& strength, const Area& area, Host& 
     host.Progress(0);
     host.Yield();
     strength = AdjustedStrength(strength);
-    Sweep sweep(terrain, area, host);
+    Sweep sweep(terrain, area, area.extent.value(), host);
     sweep.Run(true);
     sweep.Run(false);
     host.Progress(100);

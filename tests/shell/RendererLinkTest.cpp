@@ -55,7 +55,7 @@ class RendererLink : public testing::Test {
         if (!fs::remove(where / "done"))
             return "the renderer did not start";
         WriteText(where / "waits", "");
-        const std::string arguments = TextOf(where / "arguments");
+        std::string arguments = TextOf(where / "arguments");
         fs::remove(where / "arguments");
         return arguments;
     }

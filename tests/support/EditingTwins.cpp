@@ -9,9 +9,11 @@ namespace {
 
 void Raise(clsTerrain& terrain, const Stroke& stroke, int x, int y, const GaussTable& gaussTable) {
     const int r = 2 * stroke.size;
-    for (int i = x - r / 2; i <= x + r / 2; ++i)
-        for (int j = y - r / 2; j <= y + r / 2; ++j) {
-            const double w = gaussTable.Weight(i, j, x - r / 2, y - r / 2, r, r, stroke.depth);
+    const int left = x - stroke.size;
+    const int top = y - stroke.size;
+    for (int i = left; i <= left + r; ++i)
+        for (int j = top; j <= top + r; ++j) {
+            const double w = gaussTable.Weight(i, j, left, top, r, r, stroke.depth);
             terrain.IncrPoint(i, j,
                               RoundTo32(stroke.tool == StrokeTool::Up ? w * r * 20 : -w * r * 20));
         }

@@ -80,6 +80,7 @@ int Run::BestMean(int c, int x, int y) const {
     return result;
 }
 
+// One rule a number, as plain as can be.  NOLINTNEXTLINE(readability-function-size)
 double Run::NewValue(int id, int c, int x, int y) {
     const Picture& source = id == 1 || id == 3 || id == 5 || id == 6 ? P : S;
     const auto v = [&](int dx, int dy) {
@@ -97,18 +98,20 @@ double Run::NewValue(int id, int c, int x, int y) {
     const int C = v(0, 0);
     const int offset = OfLevel(c);
     const int columns = v(-1, -1) - v(1, -1) + v(-1, 0) - v(1, 0) + v(-1, 1) - v(1, 1);
+    // Quotients here are the whole parts.
+    const auto whole = [](std::int64_t number) { return static_cast<double>(number); };
     const auto each = [&](auto test) { return test(1) && test(2) && test(3); };
     switch (id) {
         case 1:
-            return double(((p + 24) * C - 2 * sum8) / (p + 8));
+            return whole(((p + 24) * C - 2 * sum8) / (p + 8));
         case 2:
             return 255 - C;
         case 3:
-            return double(sum8 >> 3);
+            return whole(sum8 >> 3);
         case 5:
-            return (C + v(-1, 0) + v(1, 0) + v(0, -1) + v(0, 1)) / 5;
+            return whole((C + v(-1, 0) + v(1, 0) + v(0, -1) + v(0, 1)) / 5);
         case 6:
-            return double(((p + 9) * C - sum8) / (p + 1));
+            return whole(((p + 9) * C - sum8) / (p + 1));
         case 7:
             return double(8 * C - sum8 + offset);
         case 8:
@@ -122,7 +125,8 @@ double Run::NewValue(int id, int c, int x, int y) {
         case 12:
             return Grey(x, y);
         case 13:
-            return (2 * v(-1, -1) + v(0, -1) + v(-1, 0) - v(1, 0) - v(0, 1) - 2 * v(1, 1)) / 2 + 50;
+            return whole(
+                (2 * v(-1, -1) + v(0, -1) + v(-1, 0) - v(1, 0) - v(0, 1) - 2 * v(1, 1)) / 2 + 50);
         case 14:
             return std::nearbyint(double(C * (p + 100)) / 100);
         case 15:
@@ -138,7 +142,7 @@ double Run::NewValue(int id, int c, int x, int y) {
         case 18:
             return each([&](int i) { return Read(S, i, x, y) < OfLevel(i); }) ? 0 : 255;
         case 19:
-            return double((10 * C - sum8) / 2);
+            return whole((10 * C - sum8) / 2);
         case 20:
             return Grey(x, y) / 16 + 1 > matrix[(y - 1) % 4][(x - 1) % 4] ? 255 : 0;
         case 24:

@@ -109,15 +109,15 @@ TEST(HeightWriter, TurnsRowsIntoColumnsOfAnyLengthAndBack) {
             if (height != noHeight)
                 extremes.Widen(height);
         ASSERT_EQ(terrain.Measure(rect), extremes) << turn;
-        clsTerrain other = RandomGrid(terrain.XPoints(), 50000, 60000, chance);
-        clsTerrain expected = other;
+        clsTerrain stored = RandomGrid(terrain.XPoints(), 50000, 60000, chance);
+        clsTerrain expected = stored;
         ForEachCell(rect, [&](int x, int y) { expected.SetPoint(x, y, terrain.GetPoint(x, y)); });
         {
-            HeightWriter writer(other, rect);
+            HeightWriter writer(stored, rect);
             writer.StoreColumns(rect, columns, length);
             writer.Stored().Widen(terrain.Measure(rect));
         }
-        ASSERT_TRUE(SameGrid(other, expected)) << turn;
+        ASSERT_TRUE(SameGrid(stored, expected)) << turn;
     }
 }
 
