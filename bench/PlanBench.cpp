@@ -1,9 +1,15 @@
 #include <QApplication>
+#include <QCheckBox>
+#include <QMouseEvent>
+#include <QSlider>
 
 #include "bench/BenchTerrain.h"
 #include "bench/CopyUnit.h"
 #include "tests/ui/LonePlan.h"
+#include "ui/panels/EditPanel.h"
+#include "ui/plan/EditTools.h"
 #include "ui/plan/PictureBox.h"
+#include "ui/plan/ToolStrip.h"
 
 // What the plan view costs while the mouse moves, in milliseconds, from the change to the painted
 // window: for 2049 points in 717 pixels, and for 129 points at 400 %.
@@ -97,6 +103,60 @@ void PlanChangeRaster(benchmark::State& state) {
     });
 }
 QB_BENCHMARK(PlanChangeRaster)->Arg(2049)->Arg(129);
+
+/// A plan view with the tools around it, worked by mouse events.
+class EditedPlan : public ShownPlan {
+  public:
+    explicit EditedPlan(int points) : ShownPlan(points) {
+        plan.session.document.history.Mode(HistoryMode::Steps);
+        panel_.Form_Load();
+        panel_.findChild<QSlider*>("Slider1")->setValue(60);
+        emit strip_.Toolbar2_ButtonClick("Pen");
+        emit strip_.ToolBarPen_ButtonClick(PenShape::Round);
+        panel_.findChild<QCheckBox*>("chkPick")->setChecked(false);
+    }
+
+    void Send(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+        PictureBox& box = plan.view.Box();
+        const QPointF place = box.InPixels(NextPlace());
+        QMouseEvent event(type, place, box.mapToGlobal(place), button, held, Qt::NoModifier);
+        QApplication::sendEvent(&box, &event);
+        Paint();
+    }
+
+  private:
+    ToolStrip strip_;
+    EditPanel panel_{plan};
+    EditTools tools_{plan, plan.view, strip_, panel_};
+};
+
+/// A move of the largest pen: grid, mark and painting.
+void PlanMovePen(benchmark::State& state) {
+    EditedPlan edited(static_cast<int>(state.range(0)));
+    edited.Send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+    MeasureInMilliseconds(state, 8,
+                          [&] { edited.Send(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton); });
+    edited.Send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+}
+QB_BENCHMARK(PlanMovePen)->Arg(2049)->Arg(129);
+
+/// A move of the mouse that only the pen's outline follows.
+void PlanMoveOutline(benchmark::State& state) {
+    EditedPlan edited(static_cast<int>(state.range(0)));
+    MeasureInMilliseconds(state, 2,
+                          [&] { edited.Send(QEvent::MouseMove, Qt::NoButton, Qt::NoButton); });
+}
+QB_BENCHMARK(PlanMoveOutline)->Arg(2049)->Arg(129);
+
+/// Press and release, which open and close a step of the history.
+void PlanPenPrint(benchmark::State& state) {
+    EditedPlan edited(static_cast<int>(state.range(0)));
+    MeasureInMilliseconds(state, 30, [&] {
+        edited.Send(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+        edited.Send(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+    });
+}
+QB_BENCHMARK(PlanPenPrint)->Arg(2049);
 
 /// All of the raster scaled and painted anew, as after a command.
 void PlanShowNewRaster(benchmark::State& state) {
