@@ -229,7 +229,7 @@ TEST_F(EditingByHand, PickTakesOverTheHeightUnderTheMouseOnce) {
     EXPECT_NEAR(Text("lblHeight").toDouble(), metres, 0.011);
     EXPECT_EQ(Find<PictureBox>("Picture2")->grab().toImage().pixel(5, 5),
               PaletteStrip(0)[20000 / 256]);
-    Terrain().SetPoint(60, 60, 500);
+    Edit([](clsTerrain& terrain) { terrain.SetPoint(60, 60, 500); });
     Click({60, 60});
     EXPECT_EQ(Value("Slider2"), 20000) << "it picks once";
     Find<QCheckBox>("chkPick")->setChecked(true);
