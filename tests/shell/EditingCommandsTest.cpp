@@ -38,7 +38,8 @@ TEST_F(Editing, EachCommandIsOneStepUnderItsName) {
     FillArea(document_, frame, 60000, host_);
     EXPECT_FALSE(document_.TerrainEmpty);
     LiftArea(document_, frame, 7, host_);
-    LowerArea(document_, frame, 9, host_);
+    // Across the frame, so that a mirror changes something.
+    LowerArea(document_, {.left = 20, .top = 10, .right = 45, .bottom = 35}, 9, host_);
     ReflectArea(document_, frame, Reflection::Vertically, host_);
     LiftArea(document_, {.left = 0, .top = 0, .right = 30, .bottom = 20}, 7, host_);
     ReflectArea(document_, frame, Reflection::Horizontally, host_);
