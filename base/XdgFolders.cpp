@@ -9,7 +9,7 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path UserFolder(const char* variable, const char* belowHome) {
-    const fs::path named = Environment(variable);
+    fs::path named = Environment(variable);
     if (named.is_absolute())
         return named;
     const fs::path home = Environment("HOME");
