@@ -1,7 +1,6 @@
 #include "ui/WindowHost.h"
 
 #include <QCoreApplication>
-#include <QTimer>
 #include <QWidget>
 #include <cassert>
 #include <utility>
@@ -16,6 +15,12 @@ constexpr int pumpEveryMs = 10;
 
 }  // namespace
 
+WindowHost::WindowHost(Session& session, RandomSource& chance) : SessionHost(session, chance) {
+    sincePump_.start();
+    idle_.setSingleShot(true);
+    QObject::connect(&idle_, &QTimer::timeout, [this] { RunWaiting(); });
+}
+
 void WindowHost::Attach(QWidget* window, std::function<void(const std::string&)> showStatus,
                         std::function<void()> actualScreen, std::function<void(bool)> takeInput) {
     window_ = window;
@@ -27,7 +32,7 @@ void WindowHost::Attach(QWidget* window, std::function<void(const std::string&)>
 void WindowHost::WhenIdle(std::function<void()> action) {
     waiting_.push_back(std::move(action));
     if (!commandRuns_)
-        QTimer::singleShot(0, window_, [this] { RunWaiting(); });
+        idle_.start(0);
 }
 
 /// What an action starts may let events through, and so come here again.
@@ -81,7 +86,7 @@ void WindowHost::EndCommand() {
     }
     commandRuns_ = false;
     if (!waiting_.empty())
-        QTimer::singleShot(0, window_, [this] { RunWaiting(); });
+        idle_.start(0);
 }
 
 CommandScope::CommandScope(WindowHost& host) : host_(host) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QTimer>
 #include <functional>
 #include <vector>
 
@@ -15,9 +16,7 @@ namespace quillbrand {
 /// what keeps everything else out: the busy flag of the session only tells what is shown.
 class WindowHost : public SessionHost {
   public:
-    WindowHost(Session& session, RandomSource& chance) : SessionHost(session, chance) {
-        sincePump_.start();
-    }
+    WindowHost(Session& session, RandomSource& chance);
 
     /// The window that shows the status, is brought into line, takes input or keeps it out, which
     /// it does while a command lets events through, and owns the message boxes.
@@ -52,6 +51,7 @@ class WindowHost : public SessionHost {
     bool commandRuns_ = false;
     bool inputIsOut_ = false;  ///< since the command that runs let events through
     std::vector<std::function<void()>> waiting_;
+    QTimer idle_;  ///< runs what waits
 };
 
 /// A command runs as long as this lives. Requires: none runs yet.

@@ -59,7 +59,7 @@ class ErrorSink {
             return TextOf(file_);
         std::string text;
         std::array<char, 4096> part;
-        for (ssize_t count; (count = read(reader_, part.data(), part.size())) > 0;)
+        for (ssize_t count = 0; (count = read(reader_, part.data(), part.size())) > 0;)
             text.append(part.data(), static_cast<std::size_t>(count));
         close(reader_);
         return text;

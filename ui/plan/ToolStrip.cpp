@@ -56,6 +56,7 @@ QToolBar* MakeStrip(const char* name, std::span<const Tool> entries) {
             button->setFocusPolicy(Qt::TabFocus);
         }
     }
+    // The strip owns the group. NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     return strip;
 }
 
